@@ -16,6 +16,7 @@ enum class RuntimeErrorNumber : std::int32_t {
     fileNotFound = 53,
     deviceInputOutput = 57,
     diskFull = 61,
+    inputPastEndOfFile = 62,
     permissionDenied = 70,
     diskNotReady = 71,
     pathFileAccess = 75,
