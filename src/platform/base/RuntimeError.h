@@ -10,6 +10,7 @@ namespace lyrebrook {
 enum class RuntimeErrorNumber : std::int32_t {
     invalidProcedureCall = 5,
     overflow = 6,
+    outOfMemory = 7,
     subscriptOutOfRange = 9,
     divisionByZero = 11,
     typeMismatch = 13,
@@ -17,6 +18,7 @@ enum class RuntimeErrorNumber : std::int32_t {
     deviceInputOutput = 57,
     diskFull = 61,
     inputPastEndOfFile = 62,
+    deviceUnavailable = 68,
     permissionDenied = 70,
     diskNotReady = 71,
     pathFileAccess = 75,

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "platform/sound/MappedFile.h"
+#include "platform/sound/SoundFormat.h"
+
+namespace lyrebrook {
+
+/// The frames of a sound: in memory, or a mapped track file whose pages are copied when written. Shared between the
+/// program's object and what still plays of it. Frames are written on the program's thread only, and only while no
+/// voice has ever been given them.
+class SoundData {
+  public:
+    /// Silence. RuntimeError `outOfMemory` when memory is short.
+    explicit SoundData(Frames length);
+    explicit SoundData(std::vector<StereoFrame> frames);
+    SoundData(std::unique_ptr<MappedFile> file, std::size_t offsetBytes, Frames length);
+
+    std::span<StereoFrame> frames() { return frames_; }
+    std::span<const StereoFrame> frames() const { return frames_; }
+    Frames length() const { return static_cast<Frames>(frames_.size()); }
+
+    /// Brings the next seconds of a mapped file into memory, so that the card's thread doesn't wait for a disk.
+    void touchAhead(Frames from) noexcept;
+
+  private:
+    std::vector<StereoFrame> memory_;
+    std::unique_ptr<MappedFile> file_;
+    std::span<StereoFrame> frames_;
+    Frames touchedFrom_ = 0;
+    Frames touchedTo_ = 0;
+};
+
+}  // namespace lyrebrook
