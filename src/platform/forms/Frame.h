@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/forms/Control.h"
+
+namespace lyrebrook {
+
+/// A captioned border around the controls that belong together.
+class Frame final : public Control {
+  public:
+    explicit Frame(QWidget* container, const QString& caption = {});
+
+    QString Caption() const;
+    void setCaption(const QString& caption);
+};
+
+}  // namespace lyrebrook

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/forms/Control.h"
+
+class QListWidget;
+
+namespace lyrebrook {
+
+/// Lines of text, unsorted, of which one can be selected. Adding, removing and clearing fire nothing; setting
+/// `ListIndex` always fires `Click`, also for the line that is selected already. An index outside of the list is a
+/// `RuntimeError`.
+class ListBox : public Control {
+  public:
+    explicit ListBox(QWidget* container);
+
+    void AddItem(const QString& text);
+    void RemoveItem(int index);
+    void Clear();
+
+    int ListCount() const;
+    /// Text of a line, empty outside of the list.
+    QString List(int index) const;
+    void setList(int index, const QString& text);
+    std::int32_t ItemData(int index) const;
+    void setItemData(int index, std::int32_t data);
+    /// Index of the line that was added last.
+    int NewIndex() const { return newIndex_; }
+
+    /// The selected line, -1 for none.
+    int ListIndex() const;
+    void setListIndex(int index);
+    /// Text of the selected line.
+    QString Text() const { return List(ListIndex()); }
+
+    int TopIndex() const;
+    void setTopIndex(int index);
+
+    Event<> Click;
+    Event<> DblClick;
+
+  protected:
+    bool filter(QEvent& event) override;
+    QListWidget& list() const;
+    void requireLine(int index) const;
+
+  private:
+    bool filterViewport(QEvent& event);
+    void select(int index);
+
+    class Viewport;
+    std::unique_ptr<Viewport> viewport_;
+    int newIndex_ = -1;
+};
+
+}  // namespace lyrebrook

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/forms/Control.h"
+
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace lyrebrook {
+
+enum class Lines { single, multiple };
+
+/// A box of plain text. Lines of a multi-line text are joined by CR LF on this side of the box.
+class TextBox final : public Control {
+  public:
+    explicit TextBox(QWidget* container, const QString& text = {}, Lines lines = Lines::single);
+
+    QString Text() const;
+    void setText(const QString& text);
+    QString SelText() const;
+    void selectAll();
+    bool Locked() const;
+    /// A locked box shows its text, and lets it be selected, but not be changed.
+    void setLocked(bool locked);
+    void setMaxLength(int characters);
+    void setAlignment(Qt::Alignment alignment);
+    /// What the empty box says, in grey.
+    void setHint(const QString& hint);
+
+    Event<> Change;       ///< the text became another, by typing or by `setText`
+    Event<int> KeyPress;  ///< code of a key that makes a character, 13 for Enter; before the box takes it
+
+  protected:
+    bool filter(QEvent& event) override;
+
+  private:
+    QLineEdit& line() const;
+    QPlainTextEdit& page() const;
+    void pressKey(QEvent& event);
+
+    Lines lines_;
+};
+
+}  // namespace lyrebrook
