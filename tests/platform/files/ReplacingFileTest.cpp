@@ -1,5 +1,7 @@
 #include "platform/base/ReplacingFile.h"
 
+#include <sys/stat.h>
+
 #include "platform/files/FailingDisk.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/FilesFixture.h"
@@ -46,8 +48,9 @@ TEST_F(ReplacingFileTest, PermissionsAndLinksStay) {
 TEST_F(ReplacingFileTest, ItRefusesWhatItMustNotReplace) {
     QFile::setPermissions(holding("locked", "old"), QFile::ReadOwner);
     QDir().mkdir(path("folder"));
+    ASSERT_EQ(mkfifo(nativePath(path("pipe")).c_str(), 0600), 0);
     const std::pair<QString, std::int32_t> cases[] = {
-        {path("locked"), 70},        {path("folder"), 75},          {"/dev/null", 75},
+        {path("locked"), 70},        {path("folder"), 75},          {path("pipe"), 75},
         {path("none/take.wav"), 76}, {path("locked/take.wav"), 76}, {path(QString(256, 'x')), 75}};
     for (const auto& [file, number] : cases) {
         EXPECT_EQ(errorOf([&] { replaceFile(file, "new"); }), number) << file.toStdString();
