@@ -1,14 +1,14 @@
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <string_view>
-
 #include "platform/directx/DirectXEvent8.h"
 #include "platform/music/DirectMusicLoader8.h"
 #include "platform/music/DirectMusicPerformance8.h"
 #include "platform/sound/DirectSound8.h"
 #include "platform/sound/DirectSoundCapture8.h"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
 
 namespace lyrebrook {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/music/DirectMusicSegment8.h"
+
 #include <filesystem>
 #include <memory>
-
-#include "platform/music/DirectMusicSegment8.h"
 
 namespace lyrebrook {
 

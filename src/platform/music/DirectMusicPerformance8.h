@@ -1,5 +1,10 @@
 #pragma once
 
+#include "platform/music/DirectMusicSegment8.h"
+#include "platform/music/MusicNotifications.h"
+#include "platform/music/SoundFont.h"
+#include "platform/sound/SoundVoice.h"
+
 #include <atomic>
 #include <cstdint>
 #include <deque>
@@ -7,11 +12,6 @@
 #include <memory>
 #include <optional>
 #include <vector>
-
-#include "platform/music/DirectMusicSegment8.h"
-#include "platform/music/MusicNotifications.h"
-#include "platform/music/SoundFont.h"
-#include "platform/sound/SoundVoice.h"
 
 namespace lyrebrook {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include <QPointer>
+#include <QTimer>
+
 #include <cstdint>
 #include <functional>
 #include <map>
 #include <vector>
-
-#include <QPointer>
-#include <QTimer>
 
 namespace lyrebrook {
 

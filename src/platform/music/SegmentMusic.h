@@ -1,11 +1,11 @@
 #pragma once
 
+#include "platform/sound/SoundSource.h"
+#include "platform/sound/SoundVoice.h"
+
 #include <atomic>
 #include <cstdint>
 #include <memory>
-
-#include "platform/sound/SoundSource.h"
-#include "platform/sound/SoundVoice.h"
 
 namespace lyrebrook {
 
