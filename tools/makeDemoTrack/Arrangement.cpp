@@ -1,0 +1,166 @@
+#include "Arrangement.h"
+
+namespace {
+
+constexpr Chord d{38, {62, 66, 69, 74}};
+constexpr Chord dNinth{38, {62, 64, 69, 74}};
+constexpr Chord dOverFSharp{42, {62, 66, 69, 74}};
+constexpr Chord bMinor7{35, {59, 62, 66, 69}};
+constexpr Chord g{43, {59, 62, 67, 71}};
+constexpr Chord gMajor7{43, {59, 62, 66, 71}};
+constexpr Chord a{45, {61, 64, 69, 73}};
+constexpr Chord aFourth{45, {62, 64, 69, 74}};
+constexpr Chord fSharpMinor7{42, {61, 64, 66, 69}};
+constexpr Chord eMinor7{40, {62, 64, 67, 71}};
+
+constexpr Pattern rest = "................";
+
+const Groove opening{.kick = rest,
+                     .snare = rest,
+                     .rim = rest,
+                     .hat = rest,
+                     .openHat = rest,
+                     .shaker = "..2...3...2...3.",
+                     .crash = rest,
+                     .bass = rest,
+                     .picks = "0.2.1.3.2.1.3.2.",
+                     .keys = rest,
+                     .padLoudness = 46};
+
+const Groove pickUp{.kick = rest,
+                    .snare = "............3.46",
+                    .rim = rest,
+                    .hat = rest,
+                    .openHat = rest,
+                    .shaker = "..2...3...2...3.",
+                    .crash = rest,
+                    .bass = "r.............f.",
+                    .picks = "0.2.1.3.2.1.3.2.",
+                    .keys = rest,
+                    .padLoudness = 50};
+
+const Groove verse{.kick = "8.....5.7.......",
+                   .snare = rest,
+                   .rim = "....6.......6..2",
+                   .hat = "5.3.5.3.5.3.5.33",
+                   .openHat = rest,
+                   .shaker = rest,
+                   .crash = rest,
+                   .bass = "r.....r.f...r.f.",
+                   .picks = "0.2.1.3.0.2.1.3.",
+                   .keys = "4.....3.....3...",
+                   .padLoudness = 44};
+
+const Groove verseFill{.kick = "8.....5.7.......",
+                       .snare = "..........3.5.67",
+                       .rim = "....6...........",
+                       .hat = "5.3.5.3.5.......",
+                       .openHat = rest,
+                       .shaker = rest,
+                       .crash = rest,
+                       .bass = "r.....r.f.r.f.r.",
+                       .picks = "0.2.1.3.0.2.1.3.",
+                       .keys = "4.....3.....4...",
+                       .padLoudness = 50};
+
+const Groove chorus{.kick = "8.....6.8..5....",
+                    .snare = "....8.......8...",
+                    .rim = rest,
+                    .hat = "6.4.6.4.6.4.6...",
+                    .openHat = "..............4.",
+                    .shaker = "2.3.2.3.2.3.2.3.",
+                    .crash = rest,
+                    .bass = "r..r..o.f..f..r.",
+                    .picks = "0.2.3.2.1.2.3.2.",
+                    .keys = "5..4..4...4..4..",
+                    .padLoudness = 58};
+
+const Groove chorusStart{.kick = "9.....6.8..5....",
+                         .snare = "....8.......8...",
+                         .rim = rest,
+                         .hat = "..4.6.4.6.4.6...",
+                         .openHat = "..............4.",
+                         .shaker = "2.3.2.3.2.3.2.3.",
+                         .crash = "6...............",
+                         .bass = "r..r..o.f..f..r.",
+                         .picks = "0.2.3.2.1.2.3.2.",
+                         .keys = "5..4..4...4..4..",
+                         .padLoudness = 60};
+
+const Groove slowing{.kick = "7...............",
+                     .snare = rest,
+                     .rim = "....5.......5...",
+                     .hat = "4...3...4...3...",
+                     .openHat = rest,
+                     .shaker = rest,
+                     .crash = rest,
+                     .bass = "r.......f.......",
+                     .picks = "0.2.1.3.2.1.3.2.",
+                     .keys = "4.......3.......",
+                     .padLoudness = 50};
+
+const Groove lastChord{.kick = "6...............",
+                       .snare = rest,
+                       .rim = rest,
+                       .hat = rest,
+                       .openHat = rest,
+                       .shaker = rest,
+                       .crash = "3...............",
+                       .bass = "r...............",
+                       .picks = "0.1.2.3.........",
+                       .keys = "4...............",
+                       .padLoudness = 50};
+
+constexpr Bar whole(const Chord& chord, const Groove& groove) {
+    return {chord, chord, &groove};
+}
+
+}  // namespace
+
+Arrangement demoSong() {
+    return {
+        .bars =
+            {
+                // Opening
+                whole(d, opening),
+                whole(dNinth, opening),
+                whole(gMajor7, opening),
+                {gMajor7, aFourth, &pickUp},
+                // Verse
+                whole(d, verse),
+                whole(bMinor7, verse),
+                whole(g, verse),
+                {aFourth, a, &verse},
+                {d, dOverFSharp, &verse},
+                whole(bMinor7, verse),
+                whole(eMinor7, verse),
+                {aFourth, a, &verseFill},
+                // Chorus
+                whole(g, chorusStart),
+                whole(a, chorus),
+                whole(fSharpMinor7, chorus),
+                whole(bMinor7, chorus),
+                whole(gMajor7, chorus),
+                {eMinor7, a, &chorus},
+                {d, dNinth, &chorus},
+                {d, dOverFSharp, &verseFill},
+                // Closing
+                whole(gMajor7, slowing),
+                {aFourth, a, &slowing},
+                {dNinth, d, &slowing},
+                whole(d, lastChord),
+            },
+        .answers =
+            {
+                {0, 8, 4, 81, 52},   {0, 12, 4, 78, 48},  {1, 4, 12, 76, 50},                        // opening
+                {2, 8, 4, 78, 52},   {2, 12, 4, 79, 50},  {3, 0, 6, 78, 52},   {3, 8, 8, 76, 48},    //
+                {7, 10, 2, 81, 44},  {7, 12, 4, 85, 46},                                             // verse
+                {11, 8, 2, 76, 44},  {11, 10, 2, 78, 46}, {11, 12, 4, 81, 50},                       //
+                {15, 8, 4, 83, 48},  {15, 12, 4, 81, 46}, {18, 8, 2, 78, 46},  {18, 10, 2, 81, 48},  // chorus
+                {18, 12, 4, 86, 50}, {19, 4, 12, 85, 44},                                            //
+                {20, 8, 4, 83, 48},  {20, 12, 4, 81, 46}, {21, 4, 4, 78, 46},  {21, 8, 8, 76, 46},   // closing
+                {22, 4, 12, 78, 44}, {23, 8, 8, 86, 40},
+            },
+        .tempos = {{0, 0, 96}, {22, 0, 90}, {22, 8, 82}, {23, 0, 70}},
+    };
+}
