@@ -9,13 +9,13 @@ namespace lyrebrook {
 struct DSBUFFERDESC {
     std::int32_t lFlags = 0;
     std::int32_t lBufferBytes = 0;
-    WAVEFORMATEX fxFormat;
+    WAVEFORMATEX fxFormat = {};
 };
 
 struct DSCBUFFERDESC {
     std::int32_t lFlags = 0;
     std::int32_t lBufferBytes = 0;
-    WAVEFORMATEX fxFormat;
+    WAVEFORMATEX fxFormat = {};
 };
 
 /// Bytes from the start of a buffer. For a capture `lWrite` is the byte up to which sound may be read.

@@ -66,7 +66,7 @@ class DirectSoundSecondaryBuffer8 {
     Shadow state() const;
     void order(Verb verb, Shadow expected);
     void applyGain();
-    void replaceData(std::shared_ptr<SoundData> data);
+    void replaceByCopy();
 
     std::shared_ptr<SoundEngine> engine_;
     std::shared_ptr<SoundData> data_;
@@ -74,7 +74,7 @@ class DirectSoundSecondaryBuffer8 {
     std::unique_ptr<BufferVoice> voice_;
     Shadow shadow_;
     std::uint32_t ticket_ = 0;
-    bool everPlayed_ = false;
+    bool cardMayRead_ = false;
     std::int32_t volume_ = 0;
     std::int32_t pan_ = 0;
 };

@@ -33,7 +33,7 @@ struct EngineCommand {
     bool looping = false;
     std::uint32_t ticket = 0;
     Frames position = 0;
-    StereoGain gain;
+    StereoGain gain = {};
     const SoundData* data = nullptr;
     SoundEffect* effect = nullptr;
 };

@@ -9,13 +9,15 @@
 
 namespace lyrebrook {
 
+/// Silence of that length, in memory that has been touched, so that the card's thread never waits for a page of it.
+/// RuntimeError `outOfMemory` when there isn't enough.
+std::vector<StereoFrame> silentFrames(Frames length);
+
 /// The frames of a sound: in memory, or a mapped track file whose pages are copied when written. Shared between the
 /// program's object and what still plays of it. Frames are written on the program's thread only, and only while no
 /// voice has ever been given them.
 class SoundData {
   public:
-    /// Silence. RuntimeError `outOfMemory` when memory is short.
-    explicit SoundData(Frames length);
     explicit SoundData(std::vector<StereoFrame> frames);
     SoundData(std::unique_ptr<MappedFile> file, std::size_t offsetBytes, Frames length);
 
@@ -27,6 +29,8 @@ class SoundData {
     void touchAhead(Frames from) noexcept;
 
   private:
+    void touch(Frames from, Frames to) noexcept;
+
     std::vector<StereoFrame> memory_;
     std::unique_ptr<MappedFile> file_;
     std::span<StereoFrame> frames_;

@@ -34,11 +34,10 @@ class SoundVoice {
     /// capture has received what sounded up to there. An input that stays dead for two seconds isn't waited for.
     bool endedAndCaptured() const;
 
-    SoundSource& source() { return *source_; }
+    SoundSource& source();
 
   private:
     std::shared_ptr<SoundEngine> engine_;
-    std::shared_ptr<SoundSource> source_;
     std::unique_ptr<SourceVoice> voice_;
     std::uint32_t ticket_ = 0;
 };

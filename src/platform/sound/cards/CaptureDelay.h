@@ -26,6 +26,9 @@ class CaptureDelay {
         bool lost = true;
     };
 
+    std::size_t collect(Frames end) noexcept;
+    Slot& slot(Frames index) noexcept;
+
     Frames latency_;
     std::vector<Slot> ring_;
     std::vector<StereoFrame> outgoing_;

@@ -9,6 +9,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/sound/EngineUnit.h"
 #include "platform/sound/SoundCard.h"
 #include "platform/sound/cards/CaptureDelay.h"
 #include "platform/sound/cards/InputFeeds.h"
@@ -77,23 +78,29 @@ class VirtualCard final : public SoundCard {
     void listen(Listener listener) { listener_ = std::move(listener); }
 
   private:
+    /// Left in the upper half, right in the lower.
+    static constexpr std::uint32_t fullLevel = 0xFFFFFFFF;
     struct LineControl {
-        std::atomic<std::uint32_t> level{0xFFFFFFFF};
+        std::atomic<std::uint32_t> level{fullLevel};
         std::atomic<bool> muted{false};
     };
     struct Block;
 
     void keepTime(const std::stop_token& stopping);
     void step(std::size_t frames);
-    void play(Block& block) noexcept;
-    void record(Block& block) noexcept;
+    void play(std::size_t frames) noexcept;
+    void addInputs(std::span<float> mix) noexcept;
+    void record(std::size_t frames) noexcept;
+    std::span<const float> recorded(std::size_t frames) const noexcept;
+    std::size_t framesLost(std::size_t frames) noexcept;
+    StereoGain gainOf(CardLine line) const noexcept;
 
     Clock clock_;
     SoundCardClient* client_ = nullptr;
     std::int32_t outputCount_ = 0;
     Listener listener_;
     std::array<LineControl, cardLineCount> lines_;
-    std::array<LineControl, recordingLineCount> recordings_;
+    std::array<std::atomic<std::uint32_t>, recordingLineCount> recordingLevels_;
     std::atomic<RecordingLine> selected_{RecordingLine::stereoMix};
     std::atomic<bool> inputOpen_{false};
     std::atomic<Frames> framesToLose_{0};

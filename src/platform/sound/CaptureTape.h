@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include "platform/sound/EngineUnit.h"
+#include "platform/sound/UnitState.h"
+
+namespace lyrebrook {
+
+/// The recording side of a capture buffer. Each frame has its place by its index on the timeline, counted from the
+/// frame at which the tape started; a place that nothing came for is silence. Lives on the card's thread while
+/// attached, which writes frame by frame; `state` and `read` are for the program's thread, which may read a place of
+/// a looping tape while it is written over and then finds the old frame or the new one.
+class CaptureTape final : public EngineUnit {
+  public:
+    /// RuntimeError `outOfMemory` when memory is short.
+    explicit CaptureTape(Frames length);
+
+    void apply(const EngineCommand& command, Frames at) noexcept override;
+    void capture(Frames soundingAt, std::span<const StereoFrame> frames) noexcept override;
+    bool capturing() const noexcept override { return running_; }
+
+    UnitState state() const noexcept { return published_.load(); }
+    Frames length() const noexcept { return static_cast<Frames>(frames_.size()); }
+
+    /// Copies bytes from `start` on, as many as `bytes` holds; the range lies inside the tape.
+    void read(std::size_t start, std::span<std::byte> bytes) const noexcept;
+
+  private:
+    void lay(Frames place, std::span<const StereoFrame> frames) noexcept;
+    void fillUpTo(Frames place) noexcept;
+    void put(Frames place, StereoFrame frame) noexcept;
+    void publish() noexcept;
+
+    mutable std::vector<StereoFrame> frames_;  // reading frame by frame needs references that could also write
+    bool running_ = false;
+    bool looping_ = false;
+    Frames origin_ = 0;
+    Frames laid_ = 0;
+    std::uint32_t ticket_ = 0;
+    PublishedState published_;
+};
+
+}  // namespace lyrebrook

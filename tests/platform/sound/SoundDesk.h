@@ -1,0 +1,102 @@
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "platform/sound/DirectSound8.h"
+#include "platform/sound/DirectSoundCapture8.h"
+#include "platform/sound/SoundSystem.h"
+#include "platform/sound/SoundTransaction.h"
+#include "platform/sound/cards/VirtualCard.h"
+
+namespace lyrebrook {
+
+using Sound = std::vector<StereoFrame>;
+
+inline void PrintTo(const StereoFrame& frame, std::ostream* out) {
+    *out << frame.left << '/' << frame.right;
+}
+
+/// Frames that tell their place: one lost, doubled or moved shows itself.
+inline Sound ramp(Frames length, std::int16_t first = 1) {
+    Sound sound;
+    for (Frames i = 0; i < length; ++i) {
+        const auto value = static_cast<std::int16_t>(first + i % 15000);
+        sound.push_back({value, static_cast<std::int16_t>(-value)});
+    }
+    return sound;
+}
+
+inline Sound silence(Frames length) {
+    return Sound(static_cast<std::size_t>(length));
+}
+
+inline Sound part(const Sound& sound, Frames from, Frames length) {
+    return {sound.begin() + from, sound.begin() + from + length};
+}
+
+inline Sound operator+(Sound first, const Sound& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// A hand-cranked card with its engine, as the program has it, and what was heard of it.
+class SoundDesk {
+  public:
+    explicit SoundDesk(Frames captureLatency = 0) : card(install(captureLatency)) {}
+    ~SoundDesk() { SoundSystem::remove(); }
+    SoundDesk(const SoundDesk&) = delete;
+    SoundDesk& operator=(const SoundDesk&) = delete;
+
+    std::unique_ptr<DirectSoundSecondaryBuffer8> buffer(const Sound& sound) {
+        const auto bytes = static_cast<std::int32_t>(std::span(sound).size_bytes());
+        auto made = ds.CreateSoundBuffer({.lFlags = 17088, .lBufferBytes = bytes, .fxFormat = trackFormat()});
+        made->WriteBuffer(0, bytes, std::as_bytes(std::span(sound)), 0);
+        return made;
+    }
+
+    std::unique_ptr<DirectSoundCaptureBuffer8> capture(Frames length) {
+        return dsc.CreateCaptureBuffer({.lFlags = 0, .lBufferBytes = toBytes(length), .fxFormat = trackFormat()});
+    }
+
+    Sound heard;
+    VirtualCard* card;
+    DirectSound8 ds{SoundSystem::engine()};
+    DirectSoundCapture8 dsc{SoundSystem::engine()};
+
+  private:
+    VirtualCard* install(Frames captureLatency) {
+        auto owned = std::make_unique<VirtualCard>(VirtualCard::Clock::handCrank, captureLatency);
+        VirtualCard* installed = owned.get();
+        installed->listen([this](Frames, std::span<const StereoFrame> frames) {
+            heard.insert(heard.end(), frames.begin(), frames.end());
+        });
+        SoundSystem::install(std::move(owned));
+        return installed;
+    }
+};
+
+template <class Buffer>
+DSCURSORS cursors(const Buffer& buffer) {
+    DSCURSORS found;
+    buffer.GetCurrentPosition(found);
+    return found;
+}
+
+/// What a capture holds up to its cursor.
+inline Sound captured(const DirectSoundCaptureBuffer8& capture) {
+    Sound sound = silence(wholeFrames(cursors(capture).lWrite));
+    capture.ReadBuffer(0, cursors(capture).lWrite, std::as_writable_bytes(std::span(sound)), 0);
+    return sound;
+}
+
+inline Sound content(const DirectSoundSecondaryBuffer8& buffer, Frames length) {
+    Sound sound = silence(length);
+    buffer.ReadBuffer(0, 0, std::as_writable_bytes(std::span(sound)), DSBLOCK_ENTIREBUFFER);
+    return sound;
+}
+
+}  // namespace lyrebrook
