@@ -44,6 +44,11 @@ TEST_F(TextStreamTest, AHugeLineIsOneLine) {
     EXPECT_EQ(lines[0].size(), huge.size());
 }
 
+TEST_F(TextStreamTest, AFileThatDoesNotTellItsSizeIsReadWhole) {
+    TextStream stream = TextStream::openForReading("/proc/self/status");
+    EXPECT_TRUE(stream.ReadLine().startsWith("Name:"));
+}
+
 TEST_F(TextStreamTest, WhatIsWrittenStandsThereAtTheCloseAndIsReadBack) {
     TextStream stream = TextStream::openForWriting(path("text"));
     stream.WriteLine(u"Zoë"_qs);
