@@ -16,9 +16,26 @@ QString withoutMarkup(const QString& markdown) {
     return document.toPlainText();
 }
 
+HelpTopic apologyFor(const QString& path, const RuntimeError& error) {
+    return {0,
+            QStringLiteral("Help is not there"),
+            QStringLiteral("The help file could not be read:\n\n    %1\n\n%2.\n")
+                .arg(path, QString::fromStdString(error.description())),
+            {}};
+}
+
 }  // namespace
 
 HelpFile::HelpFile(const QString& path) {
+    try {
+        read(path);
+    } catch (const RuntimeError& error) {
+        topics_.assign(1, apologyFor(path, error));
+    }
+    for (HelpTopic& topic : topics_) topic.plainText = topic.title + u'\n' + withoutMarkup(topic.markdown);
+}
+
+void HelpFile::read(const QString& path) {
     static const QRegularExpression head(QStringLiteral("^=== (\\d+) (.+)$"));
     TextStream stream = TextStream::openForReading(path);
     while (!stream.AtEndOfStream()) {
@@ -30,7 +47,6 @@ HelpFile::HelpFile(const QString& path) {
         }
     }
     if (topics_.empty()) throw fileError(RuntimeErrorNumber::pathFileAccess);
-    for (HelpTopic& topic : topics_) topic.plainText = topic.title + u'\n' + withoutMarkup(topic.markdown);
 }
 
 std::size_t HelpFile::placeOf(std::int32_t number) const {

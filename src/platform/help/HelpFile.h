@@ -16,7 +16,8 @@ struct HelpTopic {
 
 /// The help file's topics in their order. A topic begins with a line "=== number title" and goes on, in Markdown, to
 /// the next such line; links to other topics are written "topic:number". What stands before the first topic is a note
-/// to the file's authors. RuntimeError when the file is missing, can't be read or holds no topic.
+/// to the file's authors. A file that is missing, can't be read or holds no topic gives one topic that says so: a
+/// person who asked for help must not be left without an answer.
 class HelpFile {
   public:
     explicit HelpFile(const QString& path);
@@ -27,6 +28,8 @@ class HelpFile {
     std::size_t placeOf(std::int32_t number) const;
 
   private:
+    void read(const QString& path);
+
     std::vector<HelpTopic> topics_;
 };
 

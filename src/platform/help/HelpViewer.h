@@ -13,7 +13,7 @@ class HelpViewer {
   public:
     /// Shows the window, which is made at the first use and again after the person closed it. `contentsFinder` opens at
     /// the contents; `topic` opens the topic with the number `context`, or the contents when the file has no such
-    /// topic. RuntimeError when the file is missing or can't be read; a window that is open stays as it was.
+    /// topic. A file that is missing or can't be read is told in the window.
     static void show(const QString& file, HelpCommand command, std::int32_t context);
 };
 
