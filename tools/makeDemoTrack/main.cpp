@@ -19,12 +19,12 @@ struct Part {
     std::uint8_t volume, pan, reverb, chorus;
 };
 
-constexpr Part drums{"Drums", 9, 0, 100, 64, 38, 0};
-constexpr Part bass{"Bass", 1, 33, 104, 64, 10, 0};
-constexpr Part guitar{"Guitar", 2, 25, 88, 40, 50, 20};
-constexpr Part keys{"Electric piano", 3, 4, 84, 90, 40, 40};
-constexpr Part pad{"Strings", 4, 48, 70, 64, 70, 20};
-constexpr Part vibraphone{"Vibraphone", 5, 11, 92, 78, 70, 10};
+constexpr Part drums{"Drums", 9, 0, 124, 64, 30, 0};
+constexpr Part bass{"Bass", 1, 33, 114, 64, 8, 0};
+constexpr Part guitar{"Guitar", 2, 25, 116, 40, 44, 20};
+constexpr Part keys{"Electric piano", 3, 4, 88, 90, 36, 30};
+constexpr Part pad{"Strings", 4, 48, 100, 64, 60, 0};
+constexpr Part vibraphone{"Vibraphone", 5, 11, 127, 74, 64, 0};
 
 MidiTrack trackOf(const Part& part) {
     enum Controller : std::uint8_t { volume = 7, pan = 10, reverb = 91, chorus = 93 };

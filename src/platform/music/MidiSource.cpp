@@ -48,7 +48,7 @@ bool MidiSource::takeBlock() noexcept {
 
 bool MidiSource::renderAhead() noexcept {
     if (ringingOut_ && hasRungOut()) return false;
-    if (!ringingOut_) playDueEvents();
+    playDueEvents();
     synthesizer_->render(ahead_);
     position_ += blockSeconds * static_cast<double>(playing_.tempo->load(std::memory_order_relaxed));
     return true;
@@ -56,10 +56,13 @@ bool MidiSource::renderAhead() noexcept {
 
 void MidiSource::playDueEvents() noexcept {
     const auto& events = song_->events;
-    while (nextEvent_ < events.size() && events[nextEvent_].seconds <= position_) {
-        synthesizer_->play(*song_, events[nextEvent_++]);
+    while (!ringingOut_) {
+        while (nextEvent_ < events.size() && events[nextEvent_].seconds <= position_) {
+            synthesizer_->play(*song_, events[nextEvent_++]);
+        }
+        if (nextEvent_ < events.size() || position_ < song_->seconds) return;
+        finishRound();
     }
-    if (nextEvent_ == events.size() && position_ >= song_->seconds) finishRound();
 }
 
 void MidiSource::finishRound() noexcept {
@@ -71,9 +74,10 @@ void MidiSource::finishRound() noexcept {
     nextEvent_ = 0;
 }
 
+// Voices linger for seconds after they can no longer be heard, so they aren't asked.
 bool MidiSource::hasRungOut() noexcept {
     ringOutFrames_ += Synthesizer::blockFrames;
-    quietFrames_ = synthesizer_->keysAreSilent() && isQuiet(ahead_) ? quietFrames_ + Synthesizer::blockFrames : 0;
+    quietFrames_ = isQuiet(ahead_) ? quietFrames_ + Synthesizer::blockFrames : 0;
     return quietFrames_ >= quietFramesAtTheEnd || ringOutFrames_ > longestRingOut;
 }
 

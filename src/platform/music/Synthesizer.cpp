@@ -72,10 +72,6 @@ void Synthesizer::releaseKeys() noexcept {
     }
 }
 
-bool Synthesizer::keysAreSilent() const noexcept {
-    return fluid_synth_get_active_voice_count(synth_.get()) == 0;
-}
-
 void Synthesizer::render(Block& block) noexcept {
     fluid_synth_write_float(synth_.get(), blockFrames, block.data(), 0, 2, block.data(), 1, 2);
 }

@@ -28,9 +28,6 @@ class Synthesizer {
     /// Lets go of all keys and pedals.
     void releaseKeys() noexcept;
 
-    /// Nothing sounds any more but what hangs in the room.
-    bool keysAreSilent() const noexcept;
-
     /// The next block, interleaved.
     void render(Block& block) noexcept;
 
