@@ -10,6 +10,15 @@
 #include "platform/sound/mixing.h"
 
 namespace lyrebrook {
+namespace {
+
+std::vector<StereoFrame> copyOf(const SoundData& data) {
+    auto copy = silentFrames(data.length());
+    std::ranges::copy(data.frames(), copy.begin());
+    return copy;
+}
+
+}  // namespace
 
 DirectSoundSecondaryBuffer8::DirectSoundSecondaryBuffer8(std::shared_ptr<SoundEngine> engine,
                                                          std::shared_ptr<SoundData> data)
@@ -83,9 +92,14 @@ void DirectSoundSecondaryBuffer8::WriteBuffer(std::int32_t start, std::int32_t s
         size = toBytes(data_->length());
     }
     requireRange(start, size, toBytes(data_->length()), buffer.size());
-    if (cardMayRead_) replaceByCopy();
-    const auto sound = std::as_writable_bytes(data_->frames());
-    std::ranges::copy(buffer.first(static_cast<std::size_t>(size)), sound.begin() + start);
+    const auto part = buffer.first(static_cast<std::size_t>(size));
+    if (cardMayRead_) {
+        const auto copy = std::make_shared<SoundData>(copyOf(*data_));
+        std::ranges::copy(part, std::as_writable_bytes(copy->frames()).begin() + start);
+        replaceData(copy);
+    } else {
+        std::ranges::copy(part, std::as_writable_bytes(data_->frames()).begin() + start);
+    }
 }
 
 void DirectSoundSecondaryBuffer8::SaveToFile(const std::filesystem::path& path) const {
@@ -116,11 +130,8 @@ void DirectSoundSecondaryBuffer8::applyGain() {
     engine_->post({.unit = voice_.get(), .verb = Verb::setGain, .gain = gainOf(volume_, pan_)});
 }
 
-/// The card's thread may be reading the sound as it is, so the change is made to a copy that takes its place.
-void DirectSoundSecondaryBuffer8::replaceByCopy() {
-    auto copy = silentFrames(data_->length());
-    std::ranges::copy(data_->frames(), copy.begin());
-    auto data = std::make_shared<SoundData>(std::move(copy));
+/// For when the card's thread may be reading the sound as it is.
+void DirectSoundSecondaryBuffer8::replaceData(std::shared_ptr<SoundData> data) {
     engine_->post({.unit = voice_.get(), .verb = Verb::setData, .data = data.get()});
     engine_->keepUntilApplied(std::exchange(data_, std::move(data)));
     cardMayRead_ = state().playing;

@@ -66,7 +66,7 @@ class DirectSoundSecondaryBuffer8 {
     Shadow state() const;
     void order(Verb verb, Shadow expected);
     void applyGain();
-    void replaceByCopy();
+    void replaceData(std::shared_ptr<SoundData> data);
 
     std::shared_ptr<SoundEngine> engine_;
     std::shared_ptr<SoundData> data_;

@@ -88,8 +88,9 @@ DSCURSORS cursors(const Buffer& buffer) {
 
 /// What a capture holds up to its cursor.
 inline Sound captured(const DirectSoundCaptureBuffer8& capture) {
-    Sound sound = silence(wholeFrames(cursors(capture).lWrite));
-    capture.ReadBuffer(0, cursors(capture).lWrite, std::as_writable_bytes(std::span(sound)), 0);
+    const std::int32_t bytes = cursors(capture).lWrite;
+    Sound sound = silence(wholeFrames(bytes));
+    capture.ReadBuffer(0, bytes, std::as_writable_bytes(std::span(sound)), 0);
     return sound;
 }
 

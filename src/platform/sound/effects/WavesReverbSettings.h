@@ -10,6 +10,8 @@ struct DSFXWAVESREVERB {
     float fReverbMix = 0.0F;          ///< dB, -96 to 0: level of the reverb against the untouched sound
     float fReverbTime = 1000.0F;      ///< ms, 0.001 to 3000: until the tail has fallen by 60 dB
     float fHighFreqRTRatio = 0.001F;  ///< 0.001 to 0.999: the time at the top of the range, as a part of fReverbTime
+
+    friend bool operator==(const DSFXWAVESREVERB&, const DSFXWAVESREVERB&) = default;
 };
 
 /// What crosses from the program's thread to a sounding reverb. One thread stores, any thread loads, nobody waits.
