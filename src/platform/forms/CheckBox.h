@@ -9,12 +9,15 @@ class CheckBox final : public Control {
   public:
     explicit CheckBox(QWidget* container, const QString& caption = {}, int value = 0);
 
-    QString Caption() const;
+    QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
     int Value() const;
     void setValue(int value);
 
     Event<> Click;
+
+  private:
+    QString caption_;
 };
 
 }  // namespace lyrebrook

@@ -10,7 +10,7 @@ enum class Editing { free, listOnly };
 
 /// A list that drops down, with a text that can be typed over when editing is free. `Click` comes when a line is
 /// picked, by the user or by `setListIndex`; `Change` when the text is typed or set.
-class ComboBox : public Control {
+class ComboBox final : public Control {
   public:
     explicit ComboBox(QWidget* container, Editing editing = Editing::free);
 
@@ -28,11 +28,10 @@ class ComboBox : public Control {
     Event<> Change;
 
   protected:
-    QComboBox& combo() const;
+    bool filter(QEvent& event) override;
 
   private:
-    class EditFilter;
-    std::unique_ptr<EditFilter> editFilter_;
+    QComboBox& combo() const;
 };
 
 }  // namespace lyrebrook

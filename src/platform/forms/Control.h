@@ -26,7 +26,8 @@ enum class Look {
 };
 
 /// A named object on a form. It owns one widget, unless the widget's container went first, and turns the widget's
-/// signals into events; layouts, fonts and painting stay the widget's. Used as a `QWidget*` where a layout wants one.
+/// signals into events; layouts, fonts and painting stay the widget's. Used as a `QWidget*` where a layout or another
+/// control's constructor wants one; a picture box in a picture box needs `widget()`, or it reads as a copy.
 ///
 /// Lengths are twips. A length that was set reads back exactly for as long as the widget stands where it put it; in a
 /// layout it tells what the layout gave. Only the program's thread.
@@ -88,9 +89,6 @@ class Control {
     /// Redoes what depends on `BackColor`, `ForeColor` and the bold flag.
     virtual void applyColours();
 
-    /// Runs `action` for a signal of Qt's: the end of the program must not unwind through Qt.
-    static void fromQt(const std::function<void()>& action);
-
     template <class W>
     W& as() const {
         return static_cast<W&>(*widget_);
@@ -105,7 +103,6 @@ class Control {
     };
     static Twips read(const std::optional<Length>& length, int pixels);
     static Length given(Twips twips) { return {twips, toPixels(twips)}; }
-    void place();
 
     QPointer<QWidget> widget_;
     std::unique_ptr<Filter> filter_;

@@ -2,9 +2,11 @@
 
 #include "platform/forms/Control.h"
 
-class QListWidget;
+class QDir;
 
 namespace lyrebrook {
+
+class ListView;
 
 /// A folder, with the folders that it lies in above it and its own folders below; a double click or Enter goes there.
 class DirListBox final : public Control {
@@ -20,9 +22,9 @@ class DirListBox final : public Control {
     Event<> Change;
 
   private:
-    QListWidget& list() const;
-    void fill();
-    void open(int row);
+    ListView& list() const;
+    void fill(const QDir& folder);
+    void add(const QString& path, int depth);
 
     QString path_;
 };

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "platform/forms/ComboBox.h"
+#include "platform/forms/Control.h"
+
+class QComboBox;
 
 namespace lyrebrook {
 
@@ -14,6 +16,9 @@ class DriveListBox final : public Control {
     void setDrive(const QString& drive);
 
     Event<> Change;
+
+  private:
+    QComboBox& combo() const;
 };
 
 }  // namespace lyrebrook

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QStringList>
-
 #include "platform/forms/ListBox.h"
 
 namespace lyrebrook {

@@ -31,6 +31,8 @@ class FormSlot {
     Form& form();
 
   private:
+    void bury();
+
     std::unique_ptr<Form> form_;
     bool unloading_ = false;
 };

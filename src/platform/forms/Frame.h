@@ -9,8 +9,11 @@ class Frame final : public Control {
   public:
     explicit Frame(QWidget* container, const QString& caption = {});
 
-    QString Caption() const;
+    QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
+
+  private:
+    QString caption_;
 };
 
 }  // namespace lyrebrook

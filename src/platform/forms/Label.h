@@ -15,8 +15,8 @@ class Label final : public Control {
     void setWordWrap(bool wrap);
     /// Looks and acts like a link: a hand over it, the focus stops at it, Enter and Space click it.
     void makeLink();
-    /// The control that this text names, for screen readers.
-    void setBuddy(const Control& control);
+    /// This text names that control to screen readers.
+    void names(Control& control) const { control.setAccessibleName(Caption()); }
 
     Event<> Click;
     Event<> DblClick;
@@ -25,9 +25,8 @@ class Label final : public Control {
     bool filter(QEvent& event) override;
 
   private:
-    void click();
-
     bool pressed_ = false;
+    bool link_ = false;
 };
 
 }  // namespace lyrebrook

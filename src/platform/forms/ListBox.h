@@ -4,9 +4,9 @@
 
 #include "platform/forms/Control.h"
 
-class QListWidget;
-
 namespace lyrebrook {
+
+class ListView;
 
 /// Lines of text, unsorted, of which one can be selected. Adding, removing and clearing fire nothing; setting
 /// `ListIndex` always fires `Click`, also for the line that is selected already. An index outside of the list is a
@@ -40,17 +40,10 @@ class ListBox : public Control {
     Event<> Click;
     Event<> DblClick;
 
-  protected:
-    bool filter(QEvent& event) override;
-    QListWidget& list() const;
+  private:
+    ListView& list() const;
     void requireLine(int index) const;
 
-  private:
-    bool filterViewport(QEvent& event);
-    void select(int index);
-
-    class Viewport;
-    std::unique_ptr<Viewport> viewport_;
     int newIndex_ = -1;
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QKeySequence>
-#include <QPointer>
 #include <QString>
 
 #include "platform/forms/Event.h"
@@ -22,7 +21,7 @@ class MenuEntry {
     MenuEntry(const MenuEntry&) = delete;
     MenuEntry& operator=(const MenuEntry&) = delete;
 
-    QString Caption() const;
+    QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
     bool Enabled() const;
     void setEnabled(bool enabled);
@@ -37,8 +36,8 @@ class MenuEntry {
     MenuEntry(QAction* action, const QString& caption);
     QMenu& menu();
 
-    QPointer<QAction> action_;
-    QWidget* window_ = nullptr;
+    QAction* action_;
+    QString caption_;
 };
 
 }  // namespace lyrebrook

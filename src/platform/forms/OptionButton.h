@@ -10,12 +10,15 @@ class OptionButton final : public Control {
   public:
     explicit OptionButton(QWidget* container, const QString& caption = {});
 
-    QString Caption() const;
+    QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
     bool Value() const;
     void setValue(bool value);
 
     Event<> Click;
+
+  private:
+    QString caption_;
 };
 
 }  // namespace lyrebrook

@@ -1,14 +1,18 @@
 #pragma once
 
 #include <QImage>
+#include <QLineF>
 #include <functional>
 
 #include "platform/forms/Control.h"
 
+class QMouseEvent;
 class QPainter;
 class QRectF;
 
 namespace lyrebrook {
+
+class CanvasView;
 
 enum class MouseButton : int { none = 0, left = 1, right = 2, middle = 4 };
 
@@ -35,26 +39,31 @@ class PictureBox final : public Control {
     double ScaleWidth() const;
     double ScaleHeight() const;
     void setScaleMode(ScaleMode mode);
-    /// A line one unit thick that stays until `Cls`, or until the box changes its size.
-    void DrawLine(double x1, double y1, double x2, double y2, Colour colour);
+    /// A line one unit thick, its rows and columns counted from the upper left, that stays until `Cls` or until the box
+    /// changes its size.
+    void DrawLine(const QLineF& line, Colour colour);
     void Cls();
 
-    Event<> Click;
     /// Button, shift state (1 Shift, 2 Ctrl, 4 Alt), and the place in twips of this box.
-    Event<MouseButton, int, Twips, Twips> MouseDown;
-    Event<MouseButton, int, Twips, Twips> MouseMove;
-    Event<MouseButton, int, Twips, Twips> MouseUp;
+    using MouseEvent = Event<MouseButton, int, Twips, Twips>;
+
+    Event<> Click;
+    MouseEvent MouseDown;
+    MouseEvent MouseMove;  ///< also without a button
+    MouseEvent MouseUp;
 
   protected:
     bool filter(QEvent& event) override;
     void applyColours() override;
 
   private:
-    class Canvas;
-    Canvas& canvas() const;
+    CanvasView& canvas() const;
+    /// Units to a pixel.
     double unit() const { return scaleMode_ == ScaleMode::pixels ? 1.0 : twipsPerPixel; }
+    void tell(const MouseEvent& told, const QMouseEvent& mouse, Qt::MouseButtons buttons);
 
     ScaleMode scaleMode_ = ScaleMode::twips;
+    bool pressed_ = false;
 };
 
 }  // namespace lyrebrook

@@ -28,16 +28,16 @@ class ScrollBar final : public Control {
     Event<> Change;
     Event<> Scroll;
 
+  protected:
+    bool filter(QEvent& event) override;
+
   private:
     QScrollBar& bar() const;
     void applyRange();
-    void moved();
-    void released();
 
     std::int32_t min_ = 0;
     std::int32_t max_ = 32767;
     std::int32_t pressedAt_ = 0;
-    bool dragging_ = false;
 };
 
 }  // namespace lyrebrook

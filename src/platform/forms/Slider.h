@@ -7,6 +7,8 @@
 
 namespace lyrebrook {
 
+class SliderView;
+
 enum class Orientation { horizontal, vertical };
 
 /// The user's hold on a number between `Min` and `Max`. A vertical slider has its `Min` at the top. `Change` comes when
@@ -46,16 +48,11 @@ class Slider final : public Control {
 
     Event<> Change;
     Event<> Scroll;
-    Event<> Click;    ///< the mouse was let go over the slider
+    Event<> Click;    ///< the mouse was let go over the slider, wherever the thumb went
     Event<> MouseUp;  ///< after `Click`
 
-  protected:
-    bool filter(QEvent& event) override;
-
   private:
-    class Groove;
-    Groove& groove() const;
-    void moved(std::int32_t value);
+    SliderView& view() const;
 
     int tickStyle_ = 0;
 };

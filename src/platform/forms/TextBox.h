@@ -21,7 +21,6 @@ class TextBox final : public Control {
     bool Locked() const;
     /// A locked box shows its text, and lets it be selected, but not be changed.
     void setLocked(bool locked);
-    void setMaxLength(int characters);
     void setAlignment(Qt::Alignment alignment);
     /// What the empty box says, in grey.
     void setHint(const QString& hint);
@@ -35,7 +34,6 @@ class TextBox final : public Control {
   private:
     QLineEdit& line() const;
     QPlainTextEdit& page() const;
-    void pressKey(QEvent& event);
 
     Lines lines_;
 };

@@ -8,8 +8,8 @@
 
 namespace lyrebrook {
 
-/// Fires every `Interval` milliseconds while it is enabled and the interval isn't 0. A new interval, and being enabled
-/// anew, start the count over.
+/// Fires every `Interval` milliseconds while it is enabled and the interval isn't 0. Another interval, and being
+/// enabled anew, start the count over.
 class Timer {
   public:
     explicit Timer(std::int32_t interval = 0, bool enabled = false);

@@ -1,0 +1,50 @@
+#include "platform/forms/ListView.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <utility>
+
+#include "platform/forms/Boundary.h"
+
+namespace lyrebrook {
+namespace {
+
+void tell(const std::function<void()>& listener) {
+    if (listener) fromQt(listener);
+}
+
+}  // namespace
+
+ListView::ListView(QWidget* container) : QListWidget(container) {
+    setUniformItemSizes(true);
+}
+
+int ListView::selectedLine() const {
+    const QModelIndexList selected = selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+void ListView::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton && itemAt(event->position().toPoint());
+    QListWidget::mousePressEvent(event);
+}
+
+void ListView::mouseReleaseEvent(QMouseEvent* event) {
+    QListWidget::mouseReleaseEvent(event);
+    if (std::exchange(pressed_, false) && selectedLine() >= 0) tell(picked);
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint())) tell(opened);
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+    if (enterOpens && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && selectedLine() >= 0)
+        return tell(opened);
+    const int before = selectedLine();
+    QListWidget::keyPressEvent(event);
+    if (selectedLine() != before) tell(picked);
+}
+
+}  // namespace lyrebrook

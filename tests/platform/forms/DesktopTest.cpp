@@ -1,0 +1,117 @@
+#include "platform/forms/Desktop.h"
+
+#include <QCoreApplication>
+
+#include "Diary.h"
+#include "platform/base/RuntimeError.h"
+#include "platform/forms/CommonDialog.h"
+#include "platform/forms/QtDesktop.h"
+#include "platform/forms/Timer.h"
+
+namespace lyrebrook {
+namespace {
+
+class FrmClock final : public Form {
+  public:
+    FrmClock() : Form(QStringLiteral("Clock")) {
+        on(Timer1.Tick, [this] { note("1"); });
+        on(Timer2.Tick, [this] { note("2"); });
+    }
+    void note(const char* timer) {
+        diary << QStringLiteral("%1 at %2").arg(QString::fromLatin1(timer)).arg(desktop().monotonicMilliseconds());
+        if (ticked) ticked(*this);
+    }
+    static inline std::function<void(FrmClock&)> ticked;
+
+    Timer Timer1{50};
+    Timer Timer2{20};
+};
+FormInstance<FrmClock> frmClock;
+
+class VirtualTime : public AtDesk {
+  protected:
+    VirtualTime() { FrmClock::ticked = {}; }
+};
+
+TEST_F(VirtualTime, TimersTickInOrderEachAtItsOwnMoment) {
+    frmClock->Timer1.setEnabled(true);
+    frmClock->Timer2.setEnabled(true);
+    desk.advanceTime(60);
+    EXPECT_EQ(takeDiary(), QStringList({"2 at 20", "2 at 40", "1 at 50", "2 at 60"}));
+    frmClock->Timer2.setInterval(0);
+    frmClock->Timer1.setInterval(500);
+    desk.advanceTime(500);
+    EXPECT_EQ(takeDiary(), QStringList({"1 at 560"}));
+    frmClock->Timer1.setEnabled(false);
+    desk.advanceTime(5000);
+    EXPECT_EQ(takeDiary(), QStringList());
+}
+
+TEST_F(VirtualTime, ATickMayUnloadItsForm) {
+    frmClock->Timer1.setEnabled(true);
+    FrmClock::ticked = [](FrmClock& form) { form.Unload(); };
+    desk.advanceTime(200);
+    EXPECT_EQ(takeDiary(), QStringList({"1 at 50"}));
+}
+
+TEST_F(VirtualTime, SleepHoldsTimersUntilEventsRun) {
+    frmClock->Timer1.setEnabled(true);
+    Sleep(120);
+    EXPECT_EQ(takeDiary(), QStringList());
+    DoEvents();
+    EXPECT_EQ(takeDiary(), QStringList({"1 at 120"}));
+}
+
+TEST_F(VirtualTime, AWaitLetsTimePassUntilItsConditionTurns) {
+    desk.setNow(QDateTime(QDate(2024, 1, 1), QTime(0, 0, 10, 500)));
+    EXPECT_EQ(desktop().secondsSinceMidnight(), 10.5);
+    desktop().waitWhile([] { return desktop().secondsSinceMidnight() < 12; });
+    EXPECT_EQ(desktop().secondsSinceMidnight(), 12.0);
+}
+
+TEST_F(VirtualTime, CancelledFileDialogsLeaveNothingOrRaiseAnError) {
+    CommonDialog dialog;
+    dialog.setFilter(QStringLiteral("Text (*.txt)|*.txt"));
+    desk.willChoose(QStringLiteral("/songs/a.txt"));
+    dialog.ShowSave();
+    EXPECT_EQ(dialog.FileTitle(), "a.txt");
+    desk.willChoose({});
+    dialog.ShowOpen();
+    EXPECT_EQ(dialog.FileName(), "");
+    dialog.setCancelError(true);
+    desk.willChoose({});
+    EXPECT_THROW(dialog.ShowOpen(), RuntimeError);
+    EXPECT_EQ(desk.takeFileQuestions().at(0).purpose, FileQuestion::Purpose::save);
+}
+
+class RealDesktop : public testing::Test {
+  protected:
+    RealDesktop() { setDesktop(&desk); }
+    ~RealDesktop() override { setDesktop(nullptr); }
+
+    QtDesktop desk;
+};
+
+TEST_F(RealDesktop, AWaitEndsWithTheEventThatTurnsItsCondition) {
+    bool open = true;
+    QMetaObject::invokeMethod(
+        qApp, [&] { open = false; }, Qt::QueuedConnection);
+    desk.waitWhile([&] { return open; });
+    EXPECT_FALSE(open);
+}
+
+TEST_F(RealDesktop, DoEventsSkippedInATightLoopCatchesUp) {
+    int events = 0;
+    const auto post = [&] {
+        QMetaObject::invokeMethod(
+            qApp, [&] { ++events; }, Qt::QueuedConnection);
+    };
+    post();
+    desk.DoEvents();
+    EXPECT_EQ(events, 1);
+    post();
+    while (events < 2) desk.DoEvents();
+}
+
+}  // namespace
+}  // namespace lyrebrook
