@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <span>
+#include <utility>
 
 #include "platform/sound/SoundEffect.h"
 #include "platform/sound/effects/ReverbNetwork.h"

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <numbers>
+
+#include "platform/sound/SoundFormat.h"
+#include "platform/sound/effects/ReverbSlice.h"
+
+namespace lyrebrook {
+
+/// Turns the sound of two lines into each other, some turns in ten seconds. It keeps the energy, so the decay stays
+/// what it was, but no resonance stays at its place long enough to ring. The card's thread only.
+class Rotor {
+  public:
+    explicit Rotor(float turnsPerSecond) noexcept
+        : anglePerFrame_(2.0F * std::numbers::pi_v<float> * turnsPerSecond / static_cast<float>(framesPerSecond)) {}
+
+    void turn(SliceChannel& one, SliceChannel& other, std::size_t frames) noexcept {
+        const float length = static_cast<float>(frames);
+        const float angle = anglePerFrame_ * length;
+        const float small = 1.0F - 0.5F * angle * angle;
+        // One step of Newton's keeps the length at 1 against the roundings of hours.
+        const float correction = 1.5F - 0.5F * (cosine_ * cosine_ + sine_ * sine_);
+        const float cosine = correction * (cosine_ * small - sine_ * angle);
+        const float sine = correction * (sine_ * small + cosine_ * angle);
+        turnFrames({cosine_, (cosine - cosine_) / length}, {sine_, (sine - sine_) / length}, one, other, frames);
+        cosine_ = cosine;
+        sine_ = sine;
+    }
+
+  private:
+    struct Ramp {
+        float start;
+        float step;
+    };
+
+    static void turnFrames(Ramp cosine, Ramp sine, SliceChannel& one, SliceChannel& other,
+                           std::size_t frames) noexcept {
+        for (std::size_t t = 0; t < frames; ++t) {
+            const auto at = static_cast<float>(static_cast<std::int32_t>(t));
+            const float c = cosine.start + at * cosine.step;
+            const float s = sine.start + at * sine.step;
+            const float x = one[t];
+            const float y = other[t];
+            one[t] = c * x - s * y;
+            other[t] = s * x + c * y;
+        }
+    }
+
+    float anglePerFrame_;
+    float cosine_ = 1.0F;
+    float sine_ = 0.0F;
+};
+
+}  // namespace lyrebrook
