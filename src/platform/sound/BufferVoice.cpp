@@ -68,7 +68,6 @@ std::span<const StereoFrame> BufferVoice::takeFrames(std::size_t frames) noexcep
     if (cursor_ == data_->length()) {
         playing_ = false;
         cursor_ = 0;
-        tailLeft_ = effect_ != nullptr ? effect_->tailFrames() : 0;
     }
     publish();
     return taken;
@@ -80,6 +79,7 @@ void BufferVoice::mixThroughEffect(std::span<const StereoFrame> frames, const Mi
     std::ranges::fill(block.scratch.subspan(2 * frames.size()), 0.0F);
     effect_->process(block.scratch);
     addSamples(block.scratch, gain, block.buses.wave);
+    if (!frames.empty()) tailLeft_ = playing_ ? 0 : effect_->tailFrames();
     tailLeft_ = std::max<Frames>(0, tailLeft_ - static_cast<Frames>(block.frames - frames.size()));
 }
 

@@ -7,10 +7,15 @@
 #include "platform/sound/BufferVoice.h"
 #include "platform/sound/WaveFile.h"
 #include "platform/sound/bufferChecks.h"
+#include "platform/sound/effects/Reverb.h"
 #include "platform/sound/mixing.h"
 
 namespace lyrebrook {
 namespace {
+
+[[noreturn]] void refuse(const char* description) {
+    throw RuntimeError(RuntimeErrorNumber::invalidProcedureCall, description);
+}
 
 std::vector<StereoFrame> copyOf(const SoundData& data) {
     auto copy = silentFrames(data.length());
@@ -33,7 +38,7 @@ DirectSoundSecondaryBuffer8::~DirectSoundSecondaryBuffer8() {
 }
 
 void DirectSoundSecondaryBuffer8::Play(std::int32_t flags) {
-    if (flags != 0) throw RuntimeError(RuntimeErrorNumber::invalidProcedureCall, "A sound buffer plays once");
+    if (flags != 0) refuse("A sound buffer plays once");
     if (data_->length() == 0) return;
     const Frames cursor = state().cursor;
     data_->touchAhead(cursor);
@@ -106,12 +111,33 @@ void DirectSoundSecondaryBuffer8::SaveToFile(const std::filesystem::path& path) 
     writeWaveFile(path, std::as_const(*data_).frames());
 }
 
-void DirectSoundSecondaryBuffer8::setEffect(std::shared_ptr<SoundEffect> effect) {
-    if (state().playing) {
-        throw RuntimeError(RuntimeErrorNumber::invalidProcedureCall, "Effects can't change while the buffer plays");
+void DirectSoundSecondaryBuffer8::SetFX(std::int32_t count, std::span<const DSEFFECTDESC> effects,
+                                        std::span<std::int32_t> results) {
+    if (count == 0) {
+        setEffect(nullptr);
+        return;
     }
+    if (count != 1 || effects.empty() || results.empty()) refuse("A sound buffer takes one effect");
+    const bool known = effects.front().guidDSFXClass == GUID_DSFX_WAVES_REVERB;
+    results.front() = known ? DSFXR_LOCSOFTWARE : DSFXR_UNKNOWN;
+    if (!known) refuse("There is no such effect");
+    const auto settings = std::make_shared<WavesReverbSettings>();
+    setEffect(std::make_shared<Reverb>(settings));
+    reverb_ = settings;
+}
+
+std::unique_ptr<DirectSoundFXWavesReverb8> DirectSoundSecondaryBuffer8::GetObjectInPath(
+    std::string_view objectClass, std::int32_t index, std::string_view interfaceName) const {
+    const bool reverb = objectClass == GUID_DSFX_WAVES_REVERB && interfaceName == IID_DirectSoundFXWavesReverb;
+    if (!reverb || index != 0 || reverb_ == nullptr) refuse("The sound buffer has no such effect");
+    return std::make_unique<DirectSoundFXWavesReverb8>(reverb_);
+}
+
+void DirectSoundSecondaryBuffer8::setEffect(std::shared_ptr<SoundEffect> effect) {
+    if (state().playing) refuse("Effects can't change while the sound buffer plays");
     engine_->post({.unit = voice_.get(), .verb = Verb::setEffect, .effect = effect.get()});
     engine_->keepUntilApplied(std::exchange(effect_, std::move(effect)));
+    reverb_.reset();
 }
 
 DirectSoundSecondaryBuffer8::Shadow DirectSoundSecondaryBuffer8::state() const {

@@ -5,11 +5,13 @@
 #include <filesystem>
 #include <memory>
 #include <span>
+#include <string_view>
 
 #include "platform/sound/BufferDescriptions.h"
 #include "platform/sound/SoundData.h"
 #include "platform/sound/SoundEffect.h"
 #include "platform/sound/SoundEngine.h"
+#include "platform/sound/effects/DirectSoundFXWavesReverb8.h"
 
 namespace lyrebrook {
 
@@ -53,9 +55,17 @@ class DirectSoundSecondaryBuffer8 {
     /// Replaces the file in one step. RuntimeError when that fails; the old file is then whole.
     void SaveToFile(const std::filesystem::path& path) const;
 
-    /// Only while stopped, else RuntimeError; null takes the effect off.
+    /// Gives the buffer a fresh reverb (count 1) or takes it off (count 0) and tells in `results` what became of it.
+    /// RuntimeError while the buffer plays, for other counts and for other effects; the buffer then keeps what it has.
+    void SetFX(std::int32_t count, std::span<const DSEFFECTDESC> effects, std::span<std::int32_t> results);
+
+    /// The reverb that the last `SetFX` gave. RuntimeError when there is none, or for another class, index or
+    /// interface.
+    std::unique_ptr<DirectSoundFXWavesReverb8> GetObjectInPath(std::string_view objectClass, std::int32_t index,
+                                                               std::string_view interfaceName) const;
+
+    /// What `SetFX` does, for any effect: only while stopped, else RuntimeError; null takes it off.
     void setEffect(std::shared_ptr<SoundEffect> effect);
-    SoundEffect* effect() const { return effect_.get(); }
 
   private:
     struct Shadow {
@@ -71,6 +81,7 @@ class DirectSoundSecondaryBuffer8 {
     std::shared_ptr<SoundEngine> engine_;
     std::shared_ptr<SoundData> data_;
     std::shared_ptr<SoundEffect> effect_;
+    std::shared_ptr<WavesReverbSettings> reverb_;
     std::unique_ptr<BufferVoice> voice_;
     Shadow shadow_;
     std::uint32_t ticket_ = 0;

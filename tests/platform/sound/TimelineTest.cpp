@@ -184,5 +184,28 @@ TEST(Timeline, AnEffectIsRefusedWhilePlayingAndRingsOnAfterTheEnd) {
     EXPECT_EQ(desk.heard, Sound(50, {1000, 2000}) + silence(50) + Sound(50, {500, 1000}) + silence(100));
 }
 
+TEST(Timeline, TheReverbIsGivenToAStoppedBufferAndStaysWhenACallIsRefused) {
+    SoundDesk desk;
+    const auto buffer = desk.buffer(Sound(400, {8000, 8000}));
+    std::array effects{DSEFFECTDESC{.lFlags = 0, .guidDSFXClass = "GUID_DSFX_WAVES_REVERB"}};
+    std::array results{0};
+    const auto reverb = [&] {
+        return buffer->GetObjectInPath("GUID_DSFX_WAVES_REVERB", 0, "IID_DirectSoundFXWavesReverb");
+    };
+    EXPECT_THROW(reverb(), RuntimeError);
+    buffer->SetFX(1, effects, results);
+    reverb()->SetAllParameters({.fReverbMix = -10, .fReverbTime = 3000, .fHighFreqRTRatio = 0.1F});
+    buffer->Play(0);
+    EXPECT_THROW(buffer->SetFX(1, effects, results), RuntimeError);
+    EXPECT_EQ(reverb()->GetAllParameters().fReverbMix, -10);
+    desk.card->advance(framesPerSecond);
+    EXPECT_NE(part(desk.heard, 20000, 4000), silence(4000));
+    effects.front().guidDSFXClass = "GUID_DSFX_STANDARD_ECHO";
+    EXPECT_THROW(buffer->SetFX(1, effects, results), RuntimeError);
+    EXPECT_EQ(results.front(), DSFXR_UNKNOWN);
+    buffer->SetFX(0, {}, {});
+    EXPECT_THROW(reverb(), RuntimeError);
+}
+
 }  // namespace
 }  // namespace lyrebrook
