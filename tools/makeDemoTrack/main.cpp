@@ -1,6 +1,8 @@
 // Writes the song that ships with the program as a standard MIDI file: makeDemoTrack FILE.
+#include <algorithm>
 #include <fstream>
 #include <iostream>
+#include <span>
 
 #include "Arrangement.h"
 #include "MidiWriter.h"
@@ -124,7 +126,12 @@ MidiTrack keysTrack(const Arrangement& song) {
     return track;
 }
 
-// Chords that last into the next bar are tied.
+// The strings leave the depth to the bass.
+std::span<const std::int32_t> upperThree(const Chord& chord) {
+    return std::span(chord.tones).last(3);
+}
+
+// A chord that lasts through both halves of a bar is held.
 MidiTrack padTrack(const Arrangement& song) {
     MidiTrack track = trackOf(pad);
     for (std::int32_t half = 0; half < 2 * std::ssize(song.bars); ++half) {
@@ -136,7 +143,8 @@ MidiTrack padTrack(const Arrangement& song) {
         const bool lastsOn = step == 0 && chord.tones == chordAt(song, bar, halfBar).tones;
         const std::int32_t length = (lastsOn ? stepsPerBar : halfBar) * ticksPerStep;
         const std::int32_t velocity = song.bars[static_cast<std::size_t>(bar)].groove->padLoudness;
-        for (const std::int32_t key : chord.tones) track.note(pad.channel, {tickAt(bar, step), length, key, velocity});
+        for (const std::int32_t key : upperThree(chord))
+            track.note(pad.channel, {tickAt(bar, step), length, key, velocity});
     }
     return track;
 }

@@ -72,6 +72,16 @@ TEST_F(Loader, TheContentTellsMidiNotTheName) {
     EXPECT_EQ(beginnings(sounded(desk.file("song.wav", twoKnocks))).size(), 2U);
 }
 
+TEST_F(Loader, TheShippedSongIsAMinuteLongAndDoesNotClip) {
+    const auto song = desk.dxLoader->LoadSegment(SHIPPED_SONG);
+    const Sound sound = desk.playToTheEnd(*song);
+    EXPECT_EQ(desk.ends, 1);
+    EXPECT_NEAR(secondsOf(sound), 63, 3);
+    const auto loudest = std::ranges::max(sound, {}, &StereoFrame::left).left;
+    EXPECT_GT(loudest, 12000);
+    EXPECT_LT(loudest, 30000);
+}
+
 TEST_F(Loader, WhatHoldsNoMusicIsAnErrorWithADescription) {
     const auto noChannels = tone("none.wav", 44100, 1, SF_FORMAT_WAV | SF_FORMAT_PCM_16);
     std::fstream(noChannels, std::ios::in | std::ios::out | std::ios::binary).seekp(22).write("\0\0", 2);

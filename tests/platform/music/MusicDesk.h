@@ -46,11 +46,11 @@ class MusicDesk final : public SoundDesk, public DirectXEvent8 {
         }
     }
 
-    /// What sounded until the segment's end was told; at most a minute.
+    /// What sounded until the segment's end was told; at most two minutes.
     Sound playToTheEnd(const DirectMusicSegment8& segment) {
         heard.clear();
         performance->PlaySegmentEx(segment);
-        for (const int before = ends; ends == before && heard.size() < 60 * framesPerSecond;) crank(0.01);
+        for (const int before = ends; ends == before && heard.size() < 120 * framesPerSecond;) crank(0.01);
         return heard;
     }
 
