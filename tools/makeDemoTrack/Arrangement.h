@@ -6,7 +6,7 @@
 #include <vector>
 
 /// A bar has sixteen steps. A pattern is a text with one character to the step: '.' rests, a digit is a hit of that
-/// loudness (1 to 9) or the chord tone to play (0 to 3), a letter what the part's table says.
+/// loudness (1 to 9) or the chord tone to play (0 to 3), a letter what the line in `Groove` says.
 using Pattern = std::string_view;
 
 struct Chord {

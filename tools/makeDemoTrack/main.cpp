@@ -14,28 +14,28 @@ constexpr std::int32_t ticksPerStep = 120;
 constexpr std::int16_t ticksPerQuarter = 4 * ticksPerStep;
 constexpr std::int32_t halfBar = stepsPerBar / 2;
 
-struct Part {
+struct Instrument {
     std::string_view name;
     std::uint8_t channel;
     std::uint8_t program;  // from 0
     std::uint8_t volume, pan, reverb, chorus;
 };
 
-constexpr Part drums{"Drums", 9, 0, 124, 64, 30, 0};
-constexpr Part bass{"Bass", 1, 33, 114, 64, 8, 0};
-constexpr Part guitar{"Guitar", 2, 25, 116, 40, 44, 20};
-constexpr Part keys{"Electric piano", 3, 4, 88, 90, 36, 30};
-constexpr Part pad{"Strings", 4, 48, 100, 64, 60, 0};
-constexpr Part vibraphone{"Vibraphone", 5, 11, 127, 74, 64, 0};
+constexpr Instrument drums{"Drums", 9, 0, 124, 64, 30, 0};
+constexpr Instrument bass{"Bass", 1, 33, 114, 64, 8, 0};
+constexpr Instrument guitar{"Guitar", 2, 25, 116, 40, 44, 20};
+constexpr Instrument keys{"Electric piano", 3, 4, 88, 90, 36, 30};
+constexpr Instrument pad{"Strings", 4, 48, 100, 64, 60, 0};
+constexpr Instrument vibraphone{"Vibraphone", 5, 11, 127, 74, 64, 0};
 
-MidiTrack trackOf(const Part& part) {
+MidiTrack trackOf(const Instrument& instrument) {
     enum Controller : std::uint8_t { volume = 7, pan = 10, reverb = 91, chorus = 93 };
-    MidiTrack track(part.name);
-    track.program(part.channel, part.program);
-    track.controller(part.channel, volume, part.volume);
-    track.controller(part.channel, pan, part.pan);
-    track.controller(part.channel, reverb, part.reverb);
-    track.controller(part.channel, chorus, part.chorus);
+    MidiTrack track(instrument.name);
+    track.program(instrument.channel, instrument.program);
+    track.controller(instrument.channel, volume, instrument.volume);
+    track.controller(instrument.channel, pan, instrument.pan);
+    track.controller(instrument.channel, reverb, instrument.reverb);
+    track.controller(instrument.channel, chorus, instrument.chorus);
     return track;
 }
 
