@@ -5,7 +5,6 @@
 #include <numbers>
 
 #include "platform/sound/SoundFormat.h"
-#include "platform/sound/effects/Glide.h"
 
 namespace lyrebrook {
 namespace {
@@ -21,9 +20,9 @@ double gainAfter(double frames, double millisecondsToMinus60) noexcept {
     return std::pow(10.0, -3.0 * frames / (millisecondsToMinus60 * 0.001 * framesPerSecond));
 }
 
-// A line that loses 120 dB in one round says nothing that could be heard.
+// A line that loses 80 dB in one round says nothing that could be heard.
 double audible(double gain) noexcept {
-    return gain < 1e-6 ? 0.0 : gain;
+    return gain < 1e-4 ? 0.0 : gain;
 }
 
 }  // namespace

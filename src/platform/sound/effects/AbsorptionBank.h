@@ -3,11 +3,10 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/sound/effects/Glide.h"
 #include "platform/sound/effects/ReverbSlice.h"
 
 namespace lyrebrook {
-
-enum class Change : bool { atOnce, gliding };
 
 /// The loss that each delay line takes once a round, chosen so that the sound of every line falls by 60 dB in the same
 /// time: `milliseconds` up to about 2.5 kHz, `highRatio` of it from about 10 kHz on. A second-order shelf per line, all

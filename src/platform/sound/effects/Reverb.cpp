@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-
-#include "platform/sound/effects/Glide.h"
 
 namespace lyrebrook {
 namespace {
@@ -28,13 +25,10 @@ void Reverb::takeSettings() noexcept {
     const DSFXWAVESREVERB record = settings_->load();
     if (!fresh_ && record == taken_) return;
     taken_ = record;
-    in_.wanted = factorOf(record.fInGain);
-    wet_.wanted = factorOf(record.fReverbMix) * ReverbNetwork::unityLevel(record.fReverbTime);
-    network_.setDecay(record.fReverbTime, record.fHighFreqRTRatio, fresh_ ? Change::atOnce : Change::gliding);
-    if (fresh_) {
-        in_.now = in_.wanted;
-        wet_.now = wet_.wanted;
-    }
+    const Change change = fresh_ ? Change::atOnce : Change::gliding;
+    inGain_.set(factorOf(record.fInGain), change);
+    wetGain_.set(factorOf(record.fReverbMix) * ReverbNetwork::unityLevel(record.fReverbTime), change);
+    network_.setDecay(record.fReverbTime, record.fHighFreqRTRatio, change);
     fresh_ = false;
 }
 
@@ -52,22 +46,17 @@ void Reverb::process(std::span<float> interleavedStereo) noexcept {
 void Reverb::processSlice(float* __restrict sound, std::size_t frames) noexcept {
     StereoSlice wet;
     wet.frames = frames;
-    const float step = glideStep(frames);
-    const float inStep = (glided(in_.now, in_.wanted, step) - in_.now) / static_cast<float>(frames);
-    const float wetStep = (glided(wet_.now, wet_.wanted, step) - wet_.now) / static_cast<float>(frames);
+    const Ramp in = inGain_.advance(frames);
     for (std::size_t t = 0; t < frames; ++t) {
-        const float gain = in_.now + inStep * static_cast<float>(static_cast<std::int32_t>(t));
-        wet.left[t] = sound[2 * t] *= gain;
-        wet.right[t] = sound[2 * t + 1] *= gain;
+        wet.left[t] = sound[2 * t] *= in.at(t);
+        wet.right[t] = sound[2 * t + 1] *= in.at(t);
     }
     network_.process(wet);
+    const Ramp level = wetGain_.advance(frames);
     for (std::size_t t = 0; t < frames; ++t) {
-        const float gain = wet_.now + wetStep * static_cast<float>(static_cast<std::int32_t>(t));
-        sound[2 * t] += gain * wet.left[t];
-        sound[2 * t + 1] += gain * wet.right[t];
+        sound[2 * t] += level.at(t) * wet.left[t];
+        sound[2 * t + 1] += level.at(t) * wet.right[t];
     }
-    in_.now = glided(in_.now, in_.wanted, step);
-    wet_.now = glided(wet_.now, wet_.wanted, step);
 }
 
 }  // namespace lyrebrook

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/sound/SoundEffect.h"
+#include "platform/sound/effects/Glide.h"
 #include "platform/sound/effects/ReverbNetwork.h"
 #include "platform/sound/effects/WavesReverbSettings.h"
 
@@ -29,19 +30,14 @@ class Reverb final : public SoundEffect {
     void reset() noexcept;
 
   private:
-    struct Gain {
-        float now = 0.0F;
-        float wanted = 0.0F;
-    };
-
     void takeSettings() noexcept;
     void processSlice(float* interleavedStereo, std::size_t frames) noexcept;
 
     std::shared_ptr<const WavesReverbSettings> settings_;
     DSFXWAVESREVERB taken_;
     bool fresh_ = true;
-    Gain in_;
-    Gain wet_;
+    GlidingGain inGain_;
+    GlidingGain wetGain_;
     ReverbNetwork network_;
 };
 

@@ -77,7 +77,7 @@ void ReverbNetwork::setDecay(float milliseconds, float highRatio, Change change)
 
 float ReverbNetwork::unityLevel(float milliseconds) noexcept {
     // White noise comes out of the lines with the power lost / (1 - lost) per round; a quieter first round stays quiet.
-    constexpr double crest = 0.75;
+    constexpr double crest = 0.9;
     const double kept = std::pow(10.0, -6.0 * meanDelay / (milliseconds * 0.001 * framesPerSecond));
     return static_cast<float>(crest * std::sqrt(1.0 - kept));
 }

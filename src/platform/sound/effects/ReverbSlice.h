@@ -21,10 +21,10 @@ struct StereoSlice {
 /// One channel for each delay line.
 using LineSlices = std::array<SliceChannel, reverbLines>;
 
-/// What has faded below -300 dBFS becomes zero, long before a float loses its normal form and its speed: the sum has no
+/// What has faded below -260 dBFS becomes zero, long before a float loses its normal form and its speed: the sum has no
 /// digits left for it. Without a branch, so that loops stay wide; the compiler must not be told to reorder sums.
 constexpr float withoutTraces(float sample) noexcept {
-    constexpr float anchor = 1e-8F;
+    constexpr float anchor = 1e-6F;
     return (sample + anchor) - anchor;
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <numbers>
 
 #include "platform/sound/SoundFormat.h"
+#include "platform/sound/effects/Glide.h"
 #include "platform/sound/effects/ReverbSlice.h"
 
 namespace lyrebrook {
@@ -16,37 +16,25 @@ class Rotor {
         : anglePerFrame_(2.0F * std::numbers::pi_v<float> * turnsPerSecond / static_cast<float>(framesPerSecond)) {}
 
     void turn(SliceChannel& one, SliceChannel& other, std::size_t frames) noexcept {
-        const float length = static_cast<float>(frames);
-        const float angle = anglePerFrame_ * length;
+        const float angle = anglePerFrame_ * static_cast<float>(frames);
         const float small = 1.0F - 0.5F * angle * angle;
         // One step of Newton's keeps the length at 1 against the roundings of hours.
         const float correction = 1.5F - 0.5F * (cosine_ * cosine_ + sine_ * sine_);
         const float cosine = correction * (cosine_ * small - sine_ * angle);
         const float sine = correction * (sine_ * small + cosine_ * angle);
-        turnFrames({cosine_, (cosine - cosine_) / length}, {sine_, (sine - sine_) / length}, one, other, frames);
+        const Ramp c = Ramp::between(cosine_, cosine, frames);
+        const Ramp s = Ramp::between(sine_, sine, frames);
+        for (std::size_t t = 0; t < frames; ++t) {
+            const float x = one[t];
+            const float y = other[t];
+            one[t] = c.at(t) * x - s.at(t) * y;
+            other[t] = s.at(t) * x + c.at(t) * y;
+        }
         cosine_ = cosine;
         sine_ = sine;
     }
 
   private:
-    struct Ramp {
-        float start;
-        float step;
-    };
-
-    static void turnFrames(Ramp cosine, Ramp sine, SliceChannel& one, SliceChannel& other,
-                           std::size_t frames) noexcept {
-        for (std::size_t t = 0; t < frames; ++t) {
-            const auto at = static_cast<float>(static_cast<std::int32_t>(t));
-            const float c = cosine.start + at * cosine.step;
-            const float s = sine.start + at * sine.step;
-            const float x = one[t];
-            const float y = other[t];
-            one[t] = c * x - s * y;
-            other[t] = s * x + c * y;
-        }
-    }
-
     float anglePerFrame_;
     float cosine_ = 1.0F;
     float sine_ = 0.0F;
