@@ -1,5 +1,6 @@
 #include "platform/forms/Control.h"
 
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QStyle>
 #include <array>
@@ -151,8 +152,15 @@ void Control::setFontBold(bool bold) {
 
 void Control::setLook(Look look) {
     widget_->setProperty("look", QString::fromLatin1(lookNames.at(static_cast<std::size_t>(look))));
+    repolish();
+}
+
+void Control::repolish() {
     widget_->style()->unpolish(widget_);
     widget_->style()->polish(widget_);
+    QEvent change(QEvent::StyleChange);  // or a label goes on with the borders that it had
+    QCoreApplication::sendEvent(widget_, &change);
+    widget_->updateGeometry();
 }
 
 void Control::applyColours() {

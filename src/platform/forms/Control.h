@@ -88,6 +88,8 @@ class Control {
     virtual bool filter(QEvent& event);
     /// Redoes what depends on `BackColor`, `ForeColor` and the bold flag.
     virtual void applyColours();
+    /// After a property that the style sheet asks for.
+    void repolish();
 
     template <class W>
     W& as() const {

@@ -10,6 +10,7 @@ namespace lyrebrook {
 
 DirListBox::DirListBox(QWidget* container) : Control(new ListView(container)) {
     list().enterOpens = true;
+    list().setIconSize(QSize(16, 16));
     list().opened = [this] { setPath(list().currentItem()->data(Qt::UserRole).toString()); };
 }
 

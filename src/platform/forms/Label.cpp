@@ -44,6 +44,7 @@ void Label::makeLink() {
     widget()->setCursor(Qt::PointingHandCursor);
     widget()->setFocusPolicy(Qt::StrongFocus);
     widget()->setProperty("link", true);
+    repolish();
 }
 
 bool Label::filter(QEvent& event) {

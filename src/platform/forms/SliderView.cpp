@@ -74,7 +74,8 @@ void SliderView::paintEvent(QPaintEvent* event) {
 void SliderView::paintTicks(QPainter& painter, TickPosition side) const {
     const bool across = orientation() == Qt::Horizontal;
     const int span = (across ? width() : height()) - thumbLength;
-    const int start = side == TicksAbove ? 0 : (across ? height() : width()) - tickLength;
+    constexpr int rim = 3;  // where the focus ring goes
+    const int start = side == TicksAbove ? rim : (across ? height() : width()) - tickLength - rim;
     const std::int64_t step = std::max(1, tickInterval());
     for (std::int64_t value = minimum(); value <= maximum(); value += step) {
         const int at = thumbLength / 2 +

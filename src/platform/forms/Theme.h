@@ -22,6 +22,8 @@ inline constexpr QColor disabledText{0x75, 0x74, 0x70};
 inline constexpr QColor accent{0xf2, 0xa3, 0x3a};
 inline constexpr QColor lightDone{0x5f, 0xd0, 0x7a};
 inline constexpr QColor lightOpen{0x6a, 0x3a, 0x34};
+inline constexpr QColor information{0x7f, 0xb4, 0xe0};
+inline constexpr QColor danger{0xe8, 0x6a, 0x5c};
 }  // namespace theme
 
 }  // namespace lyrebrook

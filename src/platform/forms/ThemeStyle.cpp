@@ -5,6 +5,7 @@
 #include <QStyleOption>
 
 #include "platform/forms/Theme.h"
+#include "platform/forms/ThemeIcon.h"
 
 namespace lyrebrook {
 namespace {
@@ -69,6 +70,14 @@ void paintFocus(QPainter& painter, const QStyleOption& option) {
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75), corner, corner);
 }
 
+void paintComboBox(QPainter& painter, const QStyleOptionComplex& option) {
+    const bool enabled = option.state & QStyle::State_Enabled;
+    const bool focused = option.state & QStyle::State_HasFocus;
+    painter.setPen(QPen(focused ? theme::accent : theme::edge, 1));
+    painter.setBrush(enabled ? theme::well : theme::window);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+}
+
 }  // namespace
 
 ThemeStyle::ThemeStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -103,6 +112,30 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
     painter->restore();
+}
+
+void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const {
+    if (control != CC_ComboBox) return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    paintComboBox(*painter, *option);
+    painter->restore();
+    QStyleOption arrow(*option);
+    arrow.rect = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
+    drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
+}
+
+QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    const QIcon own = themeIcon(icon);
+    return own.isNull() ? QProxyStyle::standardIcon(icon, option, widget) : own;
+}
+
+QSize ThemeStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const {
+    const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
+    constexpr int asHighAsATextBox = 28;
+    return type == CT_ComboBox ? own.expandedTo(QSize(0, asHighAsATextBox)) : own;
 }
 
 int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

@@ -169,6 +169,15 @@ TEST_F(FormLife, TheEndInAnInnerHandlerAlsoStopsTheHandlersAroundIt) {
     EXPECT_EQ(takeDiary(), QStringList());
 }
 
+TEST_F(FormLife, FixedClientAreaIsAsLargeAsAskedForUnderItsMenuBar) {
+    FrmDesk::load = [](FrmDesk& form) { form.setFixedClientSize(9150, 7200); };
+    frmDesk.Show();
+    desk.DoEvents();
+    frmDesk->window().resize(100, 100);
+    desk.DoEvents();
+    EXPECT_EQ(frmDesk->content()->size(), QSize(610, 480));
+}
+
 TEST_F(FormLife, TransportKeyBeatsAFocusedButtonButNotTyping) {
     frmDesk.Show();
     desk.DoEvents();
