@@ -65,12 +65,6 @@ class Form {
         });
     }
 
-    /// `handler` as a handler of this form, for callers that are no controls: it may be kept for as long as they like.
-    template <class... Args>
-    std::function<void(Args...)> guard(std::function<void(Args...)> handler) {
-        return [life = life_, handler = std::move(handler)](Args... args) { run(*life, [&] { handler(args...); }); };
-    }
-
   private:
     friend class FormSlot;
     friend class ActiveForm;
@@ -80,6 +74,11 @@ class Form {
         bool loaded = true;
     };
     static void run(const Life& life, const std::function<void()>& handler);
+
+    template <class... Args>
+    std::function<void(Args...)> guard(std::function<void(Args...)> handler) {
+        return [life = life_, handler = std::move(handler)](Args... args) { run(*life, [&] { handler(args...); }); };
+    }
 
     template <class... Args, class Handler>
     std::function<void(Args...)> bound(Handler handler) {

@@ -102,6 +102,8 @@ QString existingFolder(const QString& folder) {
 
 QtDesktop::QtDesktop() {
     clock_.start();
+    // The program ends when it says so, not when a message box was the only window.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
 MsgBoxResult QtDesktop::MsgBox(const QString& text, std::int32_t style, const QString& title) {

@@ -1,6 +1,11 @@
 #include "platform/forms/Desktop.h"
 
-#include <QCoreApplication>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <iostream>
 
 #include "Diary.h"
 #include "platform/base/RuntimeError.h"
@@ -91,6 +96,57 @@ class RealDesktop : public testing::Test {
 
     QtDesktop desk;
 };
+
+/// Presses a button of the box that is about to open.
+void willPress(QMessageBox::StandardButton button) {
+    QMetaObject::invokeMethod(
+        qApp,
+        [button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            diary << box->windowTitle() << box->text();
+            ASSERT_TRUE(box->button(button));
+            box->button(button)->click();
+        },
+        Qt::QueuedConnection);
+}
+
+TEST_F(RealDesktop, BoxesOfferTheButtonsOfTheirStyle) {
+    struct Row {
+        std::int32_t style;
+        QMessageBox::StandardButton button;
+        MsgBoxResult result;
+    };
+    for (const Row& row :
+         {Row{vbOKOnly | vbCritical, QMessageBox::Ok, vbOK}, Row{vbOKCancel, QMessageBox::Cancel, vbCancel},
+          Row{vbYesNoCancel | vbQuestion, QMessageBox::Cancel, vbCancel},
+          Row{vbYesNoCancel | vbQuestion, QMessageBox::No, vbNo}, Row{vbYesNo | vbQuestion, QMessageBox::Yes, vbYes}}) {
+        willPress(row.button);
+        EXPECT_EQ(MsgBox(QStringLiteral("<b>Save & go?"), row.style), row.result) << row.style;
+        EXPECT_EQ(takeDiary(), QStringList({"Lyrebrook", "<b>Save & go?"}));
+    }
+}
+
+TEST_F(RealDesktop, FileDialogKnowsTheFilters) {
+    QMetaObject::invokeMethod(
+        qApp,
+        [] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            diary << dialog->nameFilters() << dialog->defaultSuffix() << dialog->directory().path();
+            dialog->reject();
+        },
+        Qt::QueuedConnection);
+    const auto purpose = FileQuestion::Purpose::save;
+    const QString filter = QStringLiteral("Pages (*.Htm)|*.htm;*.html|All Files (*.*)|*.*");
+    EXPECT_EQ(desk.chooseFile({purpose, filter, QStringLiteral("c:\\")}), "");
+    EXPECT_EQ(takeDiary(), QStringList({"Pages (*.htm *.html)", "All Files (*)", "htm", QDir::homePath()}));
+}
+
+TEST_F(RealDesktop, EndsTheProcessAtOnceAfterSilence) {
+    desk.setBeforeEnd([] { std::cerr << "silent"; });
+    EXPECT_EXIT(desk.endProgram(), testing::ExitedWithCode(0), "^silent$");
+}
 
 TEST_F(RealDesktop, AWaitEndsWithTheEventThatTurnsItsCondition) {
     bool open = true;
