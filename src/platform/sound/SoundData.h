@@ -14,8 +14,8 @@ namespace lyrebrook {
 std::vector<StereoFrame> silentFrames(Frames length);
 
 /// The frames of a sound: in memory, or a mapped track file whose pages are copied when written. Shared between the
-/// program's object and what still plays of it. Frames are written on the program's thread only, and only while no
-/// voice has ever been given them.
+/// program's object and what still plays of it. Frames are written on the program's thread only, and only while the
+/// card's thread can't be reading them.
 class SoundData {
   public:
     explicit SoundData(std::vector<StereoFrame> frames);

@@ -8,6 +8,18 @@ namespace {
 struct Installed {
     std::unique_ptr<SoundCard> card;
     std::shared_ptr<SoundEngine> engine;
+
+    Installed() = default;
+    Installed(const Installed&) = delete;
+    Installed& operator=(const Installed&) = delete;
+    ~Installed() { clear(); }
+
+    /// Others may still hold the engine, so it has to let go of the card before the card goes.
+    void clear() {
+        if (engine != nullptr) engine->leaveCard();
+        engine.reset();
+        card.reset();
+    }
 };
 
 Installed& installed() {
@@ -24,9 +36,7 @@ void SoundSystem::install(std::unique_ptr<SoundCard> card) {
 }
 
 void SoundSystem::remove() {
-    if (installed().engine != nullptr) installed().engine->leaveCard();
-    installed().engine.reset();
-    installed().card.reset();
+    installed().clear();
 }
 
 std::shared_ptr<SoundEngine> SoundSystem::engine() {

@@ -1,11 +1,10 @@
-#include <atomic>
-#include <cstdlib>
+#include <array>
+#include <functional>
 #include <mutex>
 #include <random>
 #include <thread>
 
 #include "SoundDesk.h"
-#include "platform/sound/RealTimeScope.h"
 #include "platform/sound/SoundVoice.h"
 
 #if defined(__SANITIZE_THREAD__)
@@ -19,24 +18,6 @@ extern "C" const char* __tsan_default_suppressions() {
 namespace lyrebrook {
 namespace {
 
-TEST(CardThreadDeathTest, TheTrapCatchesMemoryAndLocks) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_DEATH(
-        {
-            const RealTimeScope scope;
-            Sound frames(3);
-            static_cast<const volatile void*>(frames.data());
-        },
-        "malloc on the card's thread");
-    EXPECT_DEATH(
-        {
-            std::mutex mutex;
-            const RealTimeScope scope;
-            mutex.lock();
-        },
-        "pthread_mutex_lock on the card's thread");
-}
-
 class Endless final : public SoundSource {
   public:
     std::size_t render(std::span<float> samples) noexcept override {
@@ -45,17 +26,32 @@ class Endless final : public SoundSource {
     }
 };
 
-/// Turns the crank in a thread of its own, as fast as it goes.
-class TurningCrank {
+/// What no source may do.
+class Forgetful final : public SoundSource {
   public:
-    explicit TurningCrank(VirtualCard& card)
-        : thread_([&card](const std::stop_token& stopping) {
-              while (!stopping.stop_requested()) card.advance(64);
-          }) {}
+    explicit Forgetful(bool locks) : locks_(locks) {}
+    std::size_t render(std::span<float>) noexcept override {
+        if (locks_) mutex_.lock();
+        return ramp(3).size();
+    }
 
   private:
-    std::jthread thread_;
+    bool locks_;
+    std::mutex mutex_;
 };
+
+void play(std::unique_ptr<SoundSource> source) {
+    SoundDesk desk;
+    SoundVoice voice(SoundSystem::engine(), std::move(source), SoundBus::wave);
+    voice.start();
+    desk.card->advance(1);
+}
+
+TEST(CardThreadDeathTest, MemoryAndLocksEndTheProgram) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_DEATH(play(std::make_unique<Forgetful>(false)), "malloc on the card's thread");
+    EXPECT_DEATH(play(std::make_unique<Forgetful>(true)), "pthread_mutex_lock on the card's thread");
+}
 
 /// Does one thing after the other that a person at the recorder could cause, at random.
 class Session {
@@ -65,40 +61,18 @@ class Session {
     void actAtRandom() {
         auto& track = tracks_[static_cast<std::size_t>(pick(tracks_.size()))];
         if (track == nullptr) track = desk_.buffer(ramp(pick(3000)));
-        switch (pick(10)) {
-            case 0:
-                track->Play(0);
-                break;
-            case 1:
-                track->Stop();
-                break;
-            case 2:
-                track->SetCurrentPosition(static_cast<std::int32_t>(pick(12000)));
-                break;
-            case 3:
-                track->SetVolume(-static_cast<std::int32_t>(pick(4000)));
-                break;
-            case 4:
-                overwrite(*track);
-                break;
-            case 5:
-                track.reset();
-                break;
-            case 6:
-                voice_ =
-                    std::make_unique<SoundVoice>(SoundSystem::engine(), std::make_unique<Endless>(), SoundBus::wave);
-                break;
-            case 7:
-                if (voice_) voice_->start();
-                break;
-            case 8:
-                take_ = desk_.capture(2000);
-                take_->Start(static_cast<std::int32_t>(pick(2)));
-                break;
-            default:
-                restartTogether();
-                break;
-        }
+        const std::array<std::function<void()>, 9> acts{
+            [&] { track->Play(0); },
+            [&] { track->Stop(); },
+            [&] { track->SetCurrentPosition(static_cast<std::int32_t>(pick(12000))); },
+            [&] { track->SetVolume(-static_cast<std::int32_t>(pick(4000))); },
+            [&] { overwrite(*track); },
+            [&] { track.reset(); },
+            [&] { replaceVoice(); },
+            [&] { replaceTake(); },
+            [&] { restartTogether(); },
+        };
+        acts[static_cast<std::size_t>(pick(acts.size()))]();
         if (take_) taken_ += captured(*take_).size();
     }
 
@@ -110,6 +84,16 @@ class Session {
     void overwrite(DirectSoundSecondaryBuffer8& track) {
         const std::array<std::byte, 4> frame{};
         if (content(track, 1).front() != StereoFrame{}) track.WriteBuffer(0, 4, frame, 0);
+    }
+
+    void replaceVoice() {
+        voice_ = std::make_unique<SoundVoice>(SoundSystem::engine(), std::make_unique<Endless>(), SoundBus::wave);
+        voice_->start();
+    }
+
+    void replaceTake() {
+        take_ = desk_.capture(2000);
+        take_->Start(static_cast<std::int32_t>(pick(2)));
     }
 
     void restartTogether() {
@@ -133,7 +117,9 @@ class Session {
 TEST(CardThread, BearsWhateverTheProgramDoesMeanwhile) {
     SoundDesk desk;
     Session session(desk);
-    const TurningCrank crank(*desk.card);
+    const std::jthread crank([&desk](const std::stop_token& stopping) {
+        while (!stopping.stop_requested()) desk.card->advance(64);
+    });
     for (int i = 0; i < 4000; ++i) session.actAtRandom();
     EXPECT_GT(session.framesTaken(), 0U);
 }

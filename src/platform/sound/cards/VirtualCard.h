@@ -7,7 +7,6 @@
 #include <memory>
 #include <span>
 #include <thread>
-#include <vector>
 
 #include "platform/sound/EngineUnit.h"
 #include "platform/sound/SoundCard.h"
