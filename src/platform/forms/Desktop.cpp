@@ -13,8 +13,7 @@ Desktop* desktopInUse = nullptr;
 
 void Desktop::generalError(std::int32_t number, const QString& description) {
     showGeneralError(number, description);
-    endProgram();
-    std::abort();  // never reached; compilers forget that under a sanitizer a virtual call doesn't return
+    lyrebrook::endProgram();
 }
 
 double Desktop::secondsSinceMidnight() const {
@@ -32,6 +31,11 @@ void setDesktop(Desktop* desktop) {
 
 MsgBoxResult MsgBox(const QString& text, std::int32_t style, const QString& title) {
     return desktop().MsgBox(text, style, title);
+}
+
+void endProgram() {
+    desktop().endProgram();
+    std::abort();  // never reached; compilers forget that under a sanitizer a virtual call doesn't return
 }
 
 }  // namespace lyrebrook

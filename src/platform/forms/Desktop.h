@@ -100,6 +100,7 @@ void setDesktop(Desktop* desktop);
 /// Shorthands for handlers.
 MsgBoxResult MsgBox(const QString& text, std::int32_t style = vbOKOnly,
                     const QString& title = QStringLiteral("Lyrebrook"));
+[[noreturn]] void endProgram();
 inline void DoEvents() {
     desktop().DoEvents();
 }

@@ -20,7 +20,7 @@ struct Graveyard {
     bool scheduled = false;
 
     void schedule() {
-        if (uses > 0 || forms.empty() || scheduled) return;
+        if (forms.empty() || scheduled) return;
         scheduled = true;
         QMetaObject::invokeMethod(
             qApp, [this] { clear(); }, Qt::QueuedConnection);

@@ -106,6 +106,7 @@ void willPress(QMessageBox::StandardButton button) {
             ASSERT_TRUE(box);
             diary << box->windowTitle() << box->text();
             ASSERT_TRUE(box->button(button));
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
             box->button(button)->click();
         },
         Qt::QueuedConnection);

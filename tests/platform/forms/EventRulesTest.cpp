@@ -1,4 +1,5 @@
 // Which event a control fires, when the user acts and when code sets the same.
+#include <QApplication>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
@@ -167,6 +168,9 @@ const Rule rules[] = {
     {"text, typed", [](FrmAll& f) { QTest::keyClick(f.text, 'a'); }, {"Key 97", "Change"}},
     {"text, Enter", [](FrmAll& f) { QTest::keyClick(f.text, Qt::Key_Return); }, {"Key 13"}},
     {"text, focus", [](FrmAll& f) { f.text.SetFocus(), f.button.SetFocus(); }, {"GotFocus", "LostFocus"}},
+    {"text, another window",
+     [](FrmAll& f) { f.text.SetFocus(), QApplication::setActiveWindow(nullptr); },
+     {"GotFocus"}},
     {"tabs, code", [](FrmAll& f) { f.tabs.setSelectedItem(2), f.tabs.setSelectedItem(2); }, {"Click"}},
     {"tabs, user", [](FrmAll& f) { clickTab(f, 1), clickTab(f, 1); }, {"Click", "Click"}},
     {"label", [](FrmAll& f) { click(f.label); }, {"Click"}},

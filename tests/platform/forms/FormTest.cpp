@@ -31,7 +31,10 @@ class FrmDesk final : public Form {
         diary << QStringLiteral("load");
         if (load) load(*this);
     }
-    void Form_Unload() override { diary << QStringLiteral("unload"); }
+    void Form_Unload() override {
+        diary << QStringLiteral("unload");
+        Unload();  // while it is being unloaded, that is nothing
+    }
     void touch() { diary << QStringLiteral("touch"); }
     void unloadAndGoOn() {
         Unload();
@@ -75,6 +78,8 @@ TEST_F(FormLife, FirstCallLoadsOnceAndUnloadMakesRoomForAFreshForm) {
 
 TEST_F(FormLife, AFormThatUnloadsItselfLivesUntilItsHandlersAreDone) {
     frmDesk.Show();
+    frmDesk.Unload();  // an earlier form waits to be destroyed
+    frmDesk.Show();
     whenClicked([this](FrmDesk& form) {
         form.Unload();
         EXPECT_FALSE(frmDesk.isLoaded());
@@ -86,7 +91,7 @@ TEST_F(FormLife, AFormThatUnloadsItselfLivesUntilItsHandlersAreDone) {
     clickGo();
     EXPECT_EQ(takeDiary(), QStringList({"unload", "touch"})) << "an unloaded form hears no event, and isn't destroyed";
     desk.DoEvents();
-    EXPECT_EQ(takeDiary(), QStringList({"destroyed"}));
+    EXPECT_EQ(takeDiary(), QStringList({"destroyed", "destroyed"}));
 }
 
 TEST_F(FormLife, AProcedureMayUnloadItsFormAndGoOn) {
@@ -166,6 +171,18 @@ TEST_F(FormLife, TheEndInAnInnerHandlerAlsoStopsTheHandlersAroundIt) {
     takeDiary();
     clickGo();
     EXPECT_TRUE(desk.ended());
+    EXPECT_EQ(takeDiary(), QStringList());
+}
+
+TEST_F(FormLife, TheEndInAHandlerThatCodeSetOffStopsThatCode) {
+    frmDesk.Show();
+    whenClicked([](FrmDesk& form) {
+        FrmDesk::go = [](FrmDesk&) { desktop().endProgram(); };
+        form.cmdGo.setValue(true);
+        diary << QStringLiteral("went on");
+    });
+    takeDiary();
+    clickGo();
     EXPECT_EQ(takeDiary(), QStringList());
 }
 
