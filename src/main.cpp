@@ -1,1 +1,31 @@
-int main() { return 0; }
+#include <QApplication>
+#include <memory>
+
+#include "platform/forms/FormInstance.h"
+#include "platform/forms/QtDesktop.h"
+#include "platform/forms/Theme.h"
+#include "platform/sound/SoundSystem.h"
+#include "platform/sound/cards/VirtualCard.h"
+#include "shell/FrmIntro.h"
+#include "shell/modConfig.h"
+
+namespace {
+
+void subMain() {
+    lyrebrook::setUpGlobals();
+    lyrebrook::frmIntro.Show();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    using namespace lyrebrook;
+    QApplication application(argc, argv);
+    applyTheme(application);
+    QtDesktop realDesktop;
+    realDesktop.setBeforeEnd([] { SoundSystem::remove(); });
+    setDesktop(&realDesktop);
+    SoundSystem::install(std::make_unique<VirtualCard>(VirtualCard::Clock::realTime));
+    subMain();
+    return QApplication::exec();
+}

@@ -13,7 +13,7 @@ namespace lyrebrook {
 namespace {
 
 TEST(FileSafeTitle, KeepsWhatAFileNameCanHold) {
-    const std::pair<const char16_t*, const char16_t*> cases[] = {
+    const std::pair<QStringView, QStringView> cases[] = {
         {u"My Song", u"My Song"},
         {u"Rock'n'Roll!", u"RocknRoll"},
         {u"A", u""},
@@ -27,7 +27,7 @@ TEST(FileSafeTitle, KeepsWhatAFileNameCanHold) {
         {u"我的歌", u"我的歌"},
     };
     for (const auto& [title, safe] : cases) {
-        EXPECT_EQ(fileSafeTitle(QString(title)), QString(safe)) << QString(title).toStdString();
+        EXPECT_EQ(fileSafeTitle(title.toString()), safe.toString()) << title.toString().toStdString();
     }
     EXPECT_EQ(StrToDbStr(QStringLiteral(" ab ")), QStringLiteral(" ab ")) << "trimming is the caller's";
 }

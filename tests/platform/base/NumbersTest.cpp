@@ -20,7 +20,7 @@ std::int32_t errorOf(auto conversion) {
 }
 
 TEST(Numbers, AHalfGoesToTheEvenNeighbourOnBothSidesOfZero) {
-    const std::pair<double, std::int16_t> cases[] = {{0.5, 0},   {1.5, 2},   {2.5, 2},         {-0.5, 0},
+    const std::pair<double, std::int16_t> cases[] = {{0.5, 0},   {1.5, 2},   {2.5, 2},       {-0.5, 0},
                                                      {-1.5, -2}, {-2.5, -2}, {2.4999999, 2}, {-2.51, -3}};
     for (const auto& [value, rounded] : cases) EXPECT_EQ(toInt16(value), rounded) << value;
 }
