@@ -8,10 +8,11 @@ logic='shell|projects|backtrack|recorder|lyrics|dictionary|mixer|democd'
 rules() {
     cat <<'ROWS'
 platform/base     |                                                                    |
-platform/sound    | platform/base                                                      | readerwriterqueue samplerate sndfile
+platform/sound    | platform/base                                                      | pulse readerwriterqueue samplerate sndfile
 platform/files    | platform/base                                                      | Qt
 platform/system   | platform/base                                                      | Qt
 platform/music    | platform/base platform/sound                                       | Qt fluidsynth
+platform/winmm    | platform/base platform/sound                                       |
 platform/directx  | platform/base platform/sound platform/music                        | Qt
 platform/forms    | platform/base platform/files                                       | Qt
 platform/help     | platform/base platform/files platform/forms                        | Qt
@@ -47,9 +48,12 @@ while IFS='|' read -r folder others libraries; do
     done < <(grep -rnoE '^#include [<"][^>"]*[>"]' "src/$folder" --include='*.h' --include='*.cpp' | sed -E 's/:[0-9]+:#include /:/')
 done < <(rules)
 
-# Rules of the product know no widget and no library of sound; a screen's files are those named frm*.
+# Rules of the product know no widget, no form and no library of sound; what the build names as screens does.
+screens=$(sed -nE 's/^target_sources\(screens PRIVATE (.*)\)$/\1/p' src/*/CMakeLists.txt | tr ' ' '\n' | sed 's/\.cpp$//')
 while IFS=: read -r file header; do
-    case $(basename "$file") in Frm* | frm*) continue ;; esac
+    name=$(basename "${file%.*}")
+    grep -qx "$name" <<<"$screens" && continue
+    case $name in Frm* | frm*) continue ;; esac
     complain "$file includes $header: logic knows no widget, no form and no device"
 done < <(grep -rnoE "^#include (<$widgets>|<(pulse|fluidsynth|sndfile)[^>]*>|\"platform/forms/[^\"]*\"|\"([a-z]+/)?[Ff]rm[^\"]*\")" \
     $(for name in ${logic//|/ }; do [ -d "src/$name" ] && echo "src/$name"; done) | sed -E 's/:[0-9]+:#include /:/')

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Tour.h"
+
+namespace lyrebrook {
+
+/// The stations of the walk, each beginning where the one before ended.
+void openProgram(Tour& tour);
+void createSong(Tour& tour);
+void chooseBacktrack(Tour& tour);
+void recordBacktrack(Tour& tour);
+
+}  // namespace lyrebrook
