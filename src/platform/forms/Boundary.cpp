@@ -47,7 +47,7 @@ void runHandler(const std::function<void()>& handler) {
 void fromQt(const std::function<void()>& action) {
     try {
         action();
-    } catch (const ProgramEnded&) {
+    } catch (const ProgramEnded&) {  // NOLINT(bugprone-empty-catch)
         // Whoever runs the event loop around this finds the program ended.
     }
 }

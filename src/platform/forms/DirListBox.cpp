@@ -41,7 +41,7 @@ void DirListBox::fill(const QDir& folder) {
 void DirListBox::add(const QString& path, int depth) {
     const QFileInfo folder(path);
     const QString name = folder.isRoot() ? path : folder.fileName();
-    constexpr int blanksALevel = 3;
+    constexpr qsizetype blanksALevel = 3;
     auto* line = new QListWidgetItem(QString(depth * blanksALevel, u' ') + name, &list());
     const bool open = path_ == path || path_.startsWith(path + u'/') || folder.isRoot();
     line->setIcon(list().style()->standardIcon(open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon));
