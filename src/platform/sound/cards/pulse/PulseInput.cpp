@@ -1,0 +1,108 @@
+#include "platform/sound/cards/pulse/PulseInput.h"
+
+#include <span>
+
+#include "platform/sound/cards/pulse/streamSupport.h"
+
+namespace lyrebrook {
+namespace {
+
+constexpr std::chrono::milliseconds pauseBetweenAttempts{300};
+constexpr std::chrono::milliseconds fragment{10};
+
+/// Some devices take their time to wake up.
+constexpr std::chrono::seconds longestWait{3};
+constexpr std::chrono::milliseconds arrivingWithin{500};
+
+}  // namespace
+
+void PulseInput::select(const RecordingSource& source) {
+    if (source == source_) return;
+    source_ = source;
+    close();
+}
+
+void PulseInput::keepUp(pa_context& server, bool wanted, CardMoment now, SoundCardClient& client) {
+    if (!wanted || source_.kind == RecordingSource::Kind::ownOutput) return close();
+    findMonitor(server);
+    if (stream_ != nullptr && !stillGood(now)) close();
+    if (stream_ == nullptr && !target().empty() && now - tried_ > pauseBetweenAttempts) open(server, now);
+    if (stream_ == nullptr || !position_.settled() || !output_.settled()) return;
+    clock_.deliver(output_.soundingAt(now) - position_.at(now), client);
+}
+
+void PulseInput::close() {
+    stream_.reset();
+}
+
+bool PulseInput::arriving(CardMoment now) const {
+    return stream_ != nullptr && now - arrived_ < arrivingWithin;
+}
+
+/// The output moves to another sink when its own goes, or when a person moves it; the monitor goes along.
+void PulseInput::findMonitor(pa_context& server) {
+    const std::uint32_t sink = output_.sink();
+    if (sink == monitoredSink_) return;
+    monitoredSink_ = sink;
+    monitor_.clear();
+    if (sink == PA_INVALID_INDEX) return;
+    forget(pa_context_get_sink_info_by_index(
+        &server, sink,
+        [](pa_context*, const pa_sink_info* found, int, void* self) {
+            if (found != nullptr) static_cast<PulseInput*>(self)->monitor_ = found->monitor_source_name;
+        },
+        this));
+}
+
+void PulseInput::open(pa_context& server, CardMoment now) {
+    tried_ = now;
+    arrived_ = now;
+    opened_ = target();
+    clock_.restart();
+    position_.restart(now, 0);
+    timing_.restart();
+    const pa_sample_spec format = streamFormat();
+    stream_.reset(pa_stream_new(&server, "Recording", &format, nullptr));
+    if (stream_ == nullptr) return;
+    pa_stream_set_read_callback(
+        stream_.get(), [](pa_stream*, std::size_t, void* self) { static_cast<PulseInput*>(self)->takeFrames(); }, this);
+    pa_stream_set_latency_update_callback(
+        stream_.get(), [](pa_stream*, void* self) { static_cast<PulseInput*>(self)->takeTiming(); }, this);
+    constexpr auto serversChoice = static_cast<std::uint32_t>(-1);
+    const pa_buffer_attr buffer = {.maxlength = serversChoice,
+                                   .tlength = serversChoice,
+                                   .prebuf = serversChoice,
+                                   .minreq = serversChoice,
+                                   .fragsize = bufferBytes(fragment)};
+    constexpr auto flags = static_cast<pa_stream_flags_t>(PA_STREAM_INTERPOLATE_TIMING | PA_STREAM_AUTO_TIMING_UPDATE |
+                                                          PA_STREAM_ADJUST_LATENCY | PA_STREAM_DONT_MOVE);
+    if (pa_stream_connect_record(stream_.get(), opened_.c_str(), &buffer, flags) < 0) stream_.reset();
+}
+
+bool PulseInput::stillGood(CardMoment now) const {
+    const pa_stream_state_t state = pa_stream_get_state(stream_.get());
+    if (!PA_STREAM_IS_GOOD(state) || opened_ != target() || now - arrived_ > longestWait) return false;
+    return state != PA_STREAM_READY || opened_ == pa_stream_get_device_name(stream_.get());
+}
+
+void PulseInput::takeFrames() {
+    arrived_ = CardClock::now();
+    const void* sound = nullptr;
+    std::size_t bytes = 0;
+    while (pa_stream_peek(stream_.get(), &sound, &bytes) >= 0 && bytes > 0) {
+        const std::size_t frames = bytes / bytesPerFrame;
+        if (sound != nullptr) {
+            clock_.take({static_cast<const StereoFrame*>(sound), frames});
+        } else {
+            clock_.lose(static_cast<Frames>(frames));
+        }
+        pa_stream_drop(stream_.get());
+    }
+    timing_.soundMoved(*stream_, arrived_);
+}
+
+void PulseInput::takeTiming() {
+    if (const auto sight = recordSight(*stream_)) position_.see(sight->at, sight->position);
+}
+
+}  // namespace lyrebrook

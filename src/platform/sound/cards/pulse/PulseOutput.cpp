@@ -1,0 +1,125 @@
+#include "platform/sound/cards/pulse/PulseOutput.h"
+
+#include <algorithm>
+#include <span>
+
+#include "platform/sound/cards/pulse/streamSupport.h"
+
+namespace lyrebrook {
+namespace {
+
+constexpr std::chrono::milliseconds pauseBetweenAttempts{300};
+
+/// A server that asks for no sound for so long doesn't play.
+constexpr std::chrono::milliseconds longestSilenceOfServer{500};
+
+/// How far the clock mixes ahead of what sounds, about as far as a stream does.
+constexpr double clockLead = framesPerSecond / 50.0;
+
+constexpr std::chrono::milliseconds longestLength{320};
+constexpr std::chrono::milliseconds settlingTime{500};
+
+pa_buffer_attr bufferOf(std::chrono::milliseconds length) {
+    constexpr auto serversChoice = static_cast<std::uint32_t>(-1);
+    return {.maxlength = serversChoice,
+            .tlength = bufferBytes(length),
+            .prebuf = 0,
+            .minreq = bufferBytes(length / 4),
+            .fragsize = serversChoice};
+}
+
+}  // namespace
+
+void PulseOutput::begin(CardMoment now) {
+    sounding_.restart(now, static_cast<double>(mixer_.mixed()));
+}
+
+void PulseOutput::keepUp(pa_context* server, CardMoment now) {
+    if (stream_ != nullptr) watch();
+    const bool silent = streaming_ && now - requested_ > longestSilenceOfServer;
+    if (silent) streaming_ = false;
+    if (stream_ == nullptr && server != nullptr && now - tried_ > pauseBetweenAttempts) open(*server, now);
+    if (!streaming_) goOnByTheClock(now);
+}
+
+void PulseOutput::close() {
+    stream_.reset();
+    streaming_ = false;
+}
+
+std::uint32_t PulseOutput::sink() const {
+    return streaming_ ? pa_stream_get_device_index(stream_.get()) : PA_INVALID_INDEX;
+}
+
+void PulseOutput::open(pa_context& server, CardMoment now) {
+    tried_ = now;
+    const pa_sample_spec format = streamFormat();
+    stream_.reset(pa_stream_new(&server, "Song", &format, nullptr));
+    if (stream_ == nullptr) return;
+    pa_stream_set_write_callback(
+        stream_.get(),
+        [](pa_stream*, std::size_t bytes, void* self) { static_cast<PulseOutput*>(self)->takeRequest(bytes); }, this);
+    pa_stream_set_latency_update_callback(
+        stream_.get(), [](pa_stream*, void* self) { static_cast<PulseOutput*>(self)->takeTiming(); }, this);
+    pa_stream_set_underflow_callback(
+        stream_.get(), [](pa_stream*, void* self) { static_cast<PulseOutput*>(self)->takeUnderrun(); }, this);
+    const pa_buffer_attr buffer = bufferOf(length_);
+    constexpr auto flags = static_cast<pa_stream_flags_t>(PA_STREAM_INTERPOLATE_TIMING | PA_STREAM_AUTO_TIMING_UPDATE |
+                                                          PA_STREAM_ADJUST_LATENCY);
+    if (pa_stream_connect_playback(stream_.get(), nullptr, &buffer, flags, nullptr, nullptr) < 0) stream_.reset();
+}
+
+void PulseOutput::watch() {
+    if (!PA_STREAM_IS_GOOD(pa_stream_get_state(stream_.get()))) close();
+}
+
+void PulseOutput::takeRequest(std::size_t bytes) {
+    const CardMoment now = CardClock::now();
+    if (!streaming_) startStream(now);
+    requested_ = now;
+    while (bytes >= bytesPerFrame) {
+        void* room = nullptr;
+        std::size_t given = bytes;
+        if (pa_stream_begin_write(stream_.get(), &room, &given) < 0 || room == nullptr) return;
+        const std::size_t frames = std::min(given, bytes) / bytesPerFrame;
+        mixer_.mix({static_cast<StereoFrame*>(room), frames});
+        const std::size_t written = frames * bytesPerFrame;
+        pa_stream_write(stream_.get(), room, written, nullptr, 0, PA_SEEK_RELATIVE);
+        bytes -= written;
+    }
+    timing_.soundMoved(*stream_, now);
+}
+
+void PulseOutput::startStream(CardMoment now) {
+    streaming_ = true;
+    base_ = mixer_.mixed();
+    started_ = now;
+    sounding_.restart(now, sounding_.at(now));
+    timing_.restart();
+}
+
+void PulseOutput::goOnByTheClock(CardMoment now) {
+    const double due = sounding_.at(now) + clockLead;
+    mixer_.drop(static_cast<Frames>(due) - mixer_.mixed());
+}
+
+void PulseOutput::takeTiming() {
+    if (!streaming_) return;
+    if (const auto sight = playbackSight(*stream_)) {
+        sounding_.see(sight->at, static_cast<double>(base_) + sight->position);
+    }
+}
+
+/// A stream has nothing to play before its first frames come; that is no fault of the buffer's length.
+void PulseOutput::takeUnderrun() {
+    const CardMoment now = CardClock::now();
+    if (!streaming_ || now - started_ < settlingTime) return;
+    ++underruns_;
+    if (now - lastUnderrun_ < settlingTime || length_ >= longestLength) return;
+    lastUnderrun_ = now;
+    length_ *= 2;
+    const pa_buffer_attr buffer = bufferOf(length_);
+    forget(pa_stream_set_buffer_attr(stream_.get(), &buffer, nullptr, nullptr));
+}
+
+}  // namespace lyrebrook

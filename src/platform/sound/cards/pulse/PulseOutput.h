@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/sound/cards/pulse/PulseHandles.h"
+#include "platform/sound/cards/pulse/StreamPosition.h"
+#include "platform/sound/cards/pulse/TimelineMixer.h"
+#include "platform/sound/cards/pulse/TimingRequests.h"
+
+namespace lyrebrook {
+
+/// The playing side: a stream to the server that pulls the timeline, or, while there is none, the clock that does. The
+/// stream never stops for want of sound, so a frame that comes too late is lost and the rest keeps its place. Belongs
+/// to the card's thread.
+class PulseOutput {
+  public:
+    explicit PulseOutput(TimelineMixer& mixer) : mixer_(mixer) {}
+    PulseOutput(const PulseOutput&) = delete;
+    PulseOutput& operator=(const PulseOutput&) = delete;
+
+    /// The timeline begins to run.
+    void begin(CardMoment now);
+
+    /// Opens the stream when it is time to, and lets the timeline go on. `server` is null while there is none.
+    void keepUp(pa_context* server, CardMoment now);
+
+    /// Lets go of the stream; the timeline goes on by the clock.
+    void close();
+
+    /// A stream is there and takes sound.
+    bool streaming() const { return streaming_; }
+
+    /// The place of the timeline that sounds at that moment.
+    double soundingAt(CardMoment moment) const { return sounding_.at(moment); }
+
+    /// What sounds is known from the server, or there is no server to tell.
+    bool settled() const { return !streaming_ || sounding_.settled(); }
+
+    /// The sink that the stream plays on; PA_INVALID_INDEX while there is none.
+    std::uint32_t sink() const;
+
+    std::uint32_t underruns() const { return underruns_; }
+
+  private:
+    void open(pa_context& server, CardMoment now);
+    void watch();
+    void takeRequest(std::size_t bytes);
+    void startStream(CardMoment now);
+    void goOnByTheClock(CardMoment now);
+    void takeTiming();
+    void takeUnderrun();
+
+    TimelineMixer& mixer_;
+    PulseHandle<pa_stream> stream_;
+    TimingRequests timing_;
+    StreamPosition sounding_;
+    bool streaming_ = false;
+    Frames base_ = 0;
+    CardMoment tried_;
+    CardMoment started_;
+    CardMoment requested_;
+    CardMoment lastUnderrun_;
+    std::uint32_t underruns_ = 0;
+    std::chrono::milliseconds length_{20};
+};
+
+}  // namespace lyrebrook
