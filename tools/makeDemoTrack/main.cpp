@@ -23,9 +23,9 @@ struct Instrument {
 
 constexpr Instrument drums{"Drums", 9, 0, 124, 64, 30, 0};
 constexpr Instrument bass{"Bass", 1, 33, 114, 64, 8, 0};
-constexpr Instrument guitar{"Guitar", 2, 25, 116, 40, 44, 20};
+constexpr Instrument guitar{"Guitar", 2, 24, 116, 40, 44, 20};
 constexpr Instrument keys{"Electric piano", 3, 4, 88, 90, 36, 30};
-constexpr Instrument pad{"Strings", 4, 48, 100, 64, 60, 0};
+constexpr Instrument pad{"Organ", 4, 19, 78, 64, 60, 0};
 constexpr Instrument vibraphone{"Vibraphone", 5, 11, 127, 74, 64, 0};
 
 MidiTrack trackOf(const Instrument& instrument) {
@@ -116,19 +116,19 @@ MidiTrack guitarTrack(const Arrangement& song) {
     return track;
 }
 
+// The depth is the bass's, the rest of the chord the guitar's.
+std::span<const std::int32_t> upperTwo(const Chord& chord) {
+    return std::span(chord.tones).last(2);
+}
+
 MidiTrack keysTrack(const Arrangement& song) {
     MidiTrack track = trackOf(keys);
     forEachHit(song, &Groove::keys, [&](std::int32_t bar, std::int32_t step, char hit, std::int32_t steps) {
-        for (const std::int32_t key : chordAt(song, bar, step).tones) {
+        for (const std::int32_t key : upperTwo(chordAt(song, bar, step))) {
             track.note(keys.channel, {tickAt(bar, step), steps * ticksPerStep - 30, key, loudness(hit)});
         }
     });
     return track;
-}
-
-// The strings leave the depth to the bass.
-std::span<const std::int32_t> upperThree(const Chord& chord) {
-    return std::span(chord.tones).last(3);
 }
 
 // A chord that lasts through both halves of a bar is held.
@@ -143,7 +143,7 @@ MidiTrack padTrack(const Arrangement& song) {
         const bool lastsOn = step == 0 && chord.tones == chordAt(song, bar, halfBar).tones;
         const std::int32_t length = (lastsOn ? stepsPerBar : halfBar) * ticksPerStep;
         const std::int32_t velocity = song.bars[static_cast<std::size_t>(bar)].groove->padLoudness;
-        for (const std::int32_t key : upperThree(chord))
+        for (const std::int32_t key : upperTwo(chord))
             track.note(pad.channel, {tickAt(bar, step), length, key, velocity});
     }
     return track;

@@ -22,6 +22,7 @@ fluid_settings_t* makeRealTimeSettings() {
     fluid_settings_setnum(settings, "synth.gain", 0.5);
     fluid_settings_setint(settings, "synth.polyphony", 256);
     fluid_settings_setint(settings, "synth.cpu-cores", 1);
+    fluid_settings_setint(settings, "synth.chorus.active", 0);  // costs as much as eight voices
     // One thread at a time works on a synthesizer.
     fluid_settings_setint(settings, "synth.threadsafe-api", 0);
     return settings;
