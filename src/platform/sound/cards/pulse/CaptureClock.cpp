@@ -11,7 +11,7 @@ constexpr double correctFrom = framesPerSecond * 0.00025;
 constexpr double correctTo = 1.0;
 
 /// Drift doesn't come that fast.
-constexpr double leapFrom = framesPerSecond * 0.015;
+constexpr double leapFrom = framesPerSecond * 0.0025;
 
 }  // namespace
 

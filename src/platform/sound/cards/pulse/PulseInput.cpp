@@ -27,8 +27,7 @@ void PulseInput::keepUp(pa_context& server, bool wanted, CardMoment now, SoundCa
     findMonitor(server);
     if (stream_ != nullptr && !stillGood(now)) close();
     if (stream_ == nullptr && !target().empty() && now - tried_ > pauseBetweenAttempts) open(server, now);
-    if (stream_ == nullptr || !position_.settled() || !output_.settled()) return;
-    clock_.deliver(output_.soundingAt(now) - position_.at(now), client);
+    if (stream_ != nullptr && lead_.settled()) clock_.deliver(lead_.value(), client);
 }
 
 void PulseInput::close() {
@@ -59,15 +58,13 @@ void PulseInput::open(pa_context& server, CardMoment now) {
     arrived_ = now;
     opened_ = target();
     clock_.restart();
-    position_.restart(now, 0);
-    timing_.restart();
+    lead_.restart();
+    asked_ = 0;
     const pa_sample_spec format = streamFormat();
     stream_.reset(pa_stream_new(&server, "Recording", &format, nullptr));
     if (stream_ == nullptr) return;
     pa_stream_set_read_callback(
         stream_.get(), [](pa_stream*, std::size_t, void* self) { static_cast<PulseInput*>(self)->takeFrames(); }, this);
-    pa_stream_set_latency_update_callback(
-        stream_.get(), [](pa_stream*, void* self) { static_cast<PulseInput*>(self)->takeTiming(); }, this);
     constexpr auto serversChoice = static_cast<std::uint32_t>(-1);
     const pa_buffer_attr buffer = {.maxlength = serversChoice,
                                    .tlength = serversChoice,
@@ -98,11 +95,25 @@ void PulseInput::takeFrames() {
         }
         pa_stream_drop(stream_.get());
     }
-    timing_.soundMoved(*stream_, arrived_);
+    askTiming(arrived_);
+}
+
+/// Often at first, then now and then; both streams together and when sound has just moved, so that both are told as
+/// they stood at the same round of the server.
+void PulseInput::askTiming(CardMoment now) {
+    constexpr std::int32_t quick = 10;
+    constexpr std::chrono::milliseconds pause{100};
+    if (asked_ >= quick && now - lastAsked_ < pause) return;
+    ++asked_;
+    lastAsked_ = now;
+    output_.askTiming();
+    forget(pa_stream_update_timing_info(
+        stream_.get(), [](pa_stream*, int, void* self) { static_cast<PulseInput*>(self)->takeTiming(); }, this));
 }
 
 void PulseInput::takeTiming() {
-    if (const auto sight = recordSight(*stream_)) position_.see(sight->at, sight->position);
+    const auto sight = recordSight(*stream_);
+    if (sight) lead_.see(output_.soundingAtLastRound(sight->at) - sight->position);
 }
 
 }  // namespace lyrebrook

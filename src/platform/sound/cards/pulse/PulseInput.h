@@ -6,9 +6,8 @@
 #include "platform/sound/cards/pulse/CaptureClock.h"
 #include "platform/sound/cards/pulse/PulseHandles.h"
 #include "platform/sound/cards/pulse/PulseOutput.h"
+#include "platform/sound/cards/pulse/RecentMedian.h"
 #include "platform/sound/cards/pulse/RecordingSource.h"
-#include "platform/sound/cards/pulse/StreamPosition.h"
-#include "platform/sound/cards/pulse/TimingRequests.h"
 
 namespace lyrebrook {
 
@@ -16,7 +15,7 @@ namespace lyrebrook {
 /// hole; it is taken up again when the source is back. Belongs to the card's thread.
 class PulseInput {
   public:
-    explicit PulseInput(const PulseOutput& output) : output_(output) {}
+    explicit PulseInput(PulseOutput& output) : output_(output) {}
     PulseInput(const PulseInput&) = delete;
     PulseInput& operator=(const PulseInput&) = delete;
 
@@ -38,16 +37,18 @@ class PulseInput {
     void open(pa_context& server, CardMoment now);
     bool stillGood(CardMoment now) const;
     void takeFrames();
+    void askTiming(CardMoment now);
     void takeTiming();
 
-    const PulseOutput& output_;
+    PulseOutput& output_;
     RecordingSource source_;
     std::uint32_t monitoredSink_ = PA_INVALID_INDEX;
     std::string monitor_;
     std::string opened_;
     PulseHandle<pa_stream> stream_;
-    TimingRequests timing_;
-    StreamPosition position_;
+    RecentMedian lead_;
+    std::int32_t asked_ = 0;
+    CardMoment lastAsked_;
     CaptureClock clock_;
     CardMoment tried_;
     CardMoment arrived_;

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <span>
 
-#include "platform/sound/cards/pulse/streamSupport.h"
-
 namespace lyrebrook {
 namespace {
 
@@ -18,6 +16,7 @@ constexpr double clockLead = framesPerSecond / 50.0;
 
 constexpr std::chrono::milliseconds longestLength{320};
 constexpr std::chrono::milliseconds settlingTime{500};
+constexpr std::chrono::milliseconds oneMoment{20};
 
 pa_buffer_attr bufferOf(std::chrono::milliseconds length) {
     constexpr auto serversChoice = static_cast<std::uint32_t>(-1);
@@ -53,6 +52,7 @@ std::uint32_t PulseOutput::sink() const {
 
 void PulseOutput::open(pa_context& server, CardMoment now) {
     tried_ = now;
+    written_ = 0;
     const pa_sample_spec format = streamFormat();
     stream_.reset(pa_stream_new(&server, "Song", &format, nullptr));
     if (stream_ == nullptr) return;
@@ -75,27 +75,40 @@ void PulseOutput::watch() {
 
 void PulseOutput::takeRequest(std::size_t bytes) {
     const CardMoment now = CardClock::now();
-    if (!streaming_) startStream(now);
+    std::size_t frames = bytes / bytesPerFrame;
+    const Frames skipped = streaming_ ? 0 : startStream(frames, now);
+    frames -= static_cast<std::size_t>(skipped);
     requested_ = now;
-    while (bytes >= bytesPerFrame) {
-        void* room = nullptr;
-        std::size_t given = bytes;
-        if (pa_stream_begin_write(stream_.get(), &room, &given) < 0 || room == nullptr) return;
-        const std::size_t frames = std::min(given, bytes) / bytesPerFrame;
-        mixer_.mix({static_cast<StereoFrame*>(room), frames});
-        const std::size_t written = frames * bytesPerFrame;
-        pa_stream_write(stream_.get(), room, written, nullptr, 0, PA_SEEK_RELATIVE);
-        bytes -= written;
+    for (Frames gap = skipped; frames > 0; gap = 0) {
+        const std::size_t written = write(frames, gap);
+        if (written == 0) return;
+        frames -= written;
     }
-    timing_.soundMoved(*stream_, now);
 }
 
-void PulseOutput::startStream(CardMoment now) {
+/// Frames written behind a gap, as many as the server gave room for.
+std::size_t PulseOutput::write(std::size_t frames, Frames gap) {
+    void* room = nullptr;
+    std::size_t bytes = frames * bytesPerFrame;
+    if (pa_stream_begin_write(stream_.get(), &room, &bytes) < 0 || room == nullptr) return 0;
+    frames = std::min(frames, bytes / bytesPerFrame);
+    mixer_.mix({static_cast<StereoFrame*>(room), frames});
+    pa_stream_write(stream_.get(), room, frames * bytesPerFrame, nullptr, gap * bytesPerFrame, PA_SEEK_RELATIVE);
+    written_ += gap + static_cast<Frames>(frames);
+    return frames;
+}
+
+/// A server that stood still for a while asks for all that it missed. The timeline went on meanwhile, so that much is
+/// skipped; tells how many frames.
+Frames PulseOutput::startStream(std::size_t requested, CardMoment now) {
+    const Frames buffer = wholeFrames(bufferBytes(length_));
+    const Frames skipped = std::max<Frames>(static_cast<Frames>(requested) - buffer, 0);
     streaming_ = true;
-    base_ = mixer_.mixed();
+    base_ = mixer_.mixed() - written_ - skipped;
     started_ = now;
     sounding_.restart(now, sounding_.at(now));
-    timing_.restart();
+    told_ = {};
+    return skipped;
 }
 
 void PulseOutput::goOnByTheClock(CardMoment now) {
@@ -103,11 +116,20 @@ void PulseOutput::goOnByTheClock(CardMoment now) {
     mixer_.drop(static_cast<Frames>(due) - mixer_.mixed());
 }
 
+void PulseOutput::askTiming() {
+    if (streaming_) forget(pa_stream_update_timing_info(stream_.get(), nullptr, nullptr));
+}
+
 void PulseOutput::takeTiming() {
-    if (!streaming_) return;
-    if (const auto sight = playbackSight(*stream_)) {
-        sounding_.see(sight->at, static_cast<double>(base_) + sight->position);
-    }
+    const auto sight = streaming_ ? playbackSight(*stream_) : std::nullopt;
+    if (!sight) return;
+    told_ = {sight->at, static_cast<double>(base_) + sight->position};
+    sounding_.see(told_.at, told_.position);
+}
+
+double PulseOutput::soundingAtLastRound(CardMoment moment) const {
+    const bool sameRound = streaming_ && std::chrono::abs(moment - told_.at) < oneMoment;
+    return sameRound ? told_.position + framesIn(moment - told_.at) : sounding_.at(moment);
 }
 
 /// A stream has nothing to play before its first frames come; that is no fault of the buffer's length.

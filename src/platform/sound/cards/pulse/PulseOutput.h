@@ -1,12 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "platform/sound/cards/pulse/PulseHandles.h"
 #include "platform/sound/cards/pulse/StreamPosition.h"
 #include "platform/sound/cards/pulse/TimelineMixer.h"
-#include "platform/sound/cards/pulse/TimingRequests.h"
+#include "platform/sound/cards/pulse/streamSupport.h"
 
 namespace lyrebrook {
 
@@ -34,8 +33,13 @@ class PulseOutput {
     /// The place of the timeline that sounds at that moment.
     double soundingAt(CardMoment moment) const { return sounding_.at(moment); }
 
-    /// What sounds is known from the server, or there is no server to tell.
-    bool settled() const { return !streaming_ || sounding_.settled(); }
+    /// Has the server tell anew what sounds.
+    void askTiming();
+
+    /// The same as `soundingAt`, but from what the server told last, if that is no older than a moment. Servers move
+    /// sound in rounds and tell how it stood at the last; a record stream asked together with this one stood at the
+    /// same.
+    double soundingAtLastRound(CardMoment moment) const;
 
     /// The sink that the stream plays on; PA_INVALID_INDEX while there is none.
     std::uint32_t sink() const;
@@ -46,17 +50,19 @@ class PulseOutput {
     void open(pa_context& server, CardMoment now);
     void watch();
     void takeRequest(std::size_t bytes);
-    void startStream(CardMoment now);
+    std::size_t write(std::size_t frames, Frames gap);
+    Frames startStream(std::size_t requested, CardMoment now);
     void goOnByTheClock(CardMoment now);
     void takeTiming();
     void takeUnderrun();
 
     TimelineMixer& mixer_;
     PulseHandle<pa_stream> stream_;
-    TimingRequests timing_;
+    StreamSight told_;
     StreamPosition sounding_;
     bool streaming_ = false;
-    Frames base_ = 0;
+    Frames written_ = 0;  // frames of the stream, those skipped too
+    Frames base_ = 0;     // place on the timeline of the stream's first frame
     CardMoment tried_;
     CardMoment started_;
     CardMoment requested_;

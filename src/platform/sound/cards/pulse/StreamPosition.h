@@ -1,15 +1,12 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
-
 #include "platform/sound/cards/pulse/CardTime.h"
+#include "platform/sound/cards/pulse/RecentMedian.h"
 
 namespace lyrebrook {
 
-/// Where a stream of sound stands at any moment, in frames, from where it was seen to stand at some moments before.
-/// What was seen jitters by milliseconds, one look in many is far off, and a device's clock runs some millionths beside
-/// ours: the median of how far the stream was ahead of our clock stands against all three.
+/// Where a stream of sound stands at any moment, in frames, from where it was seen to stand at some moments before. In
+/// between it goes by our clock.
 class StreamPosition {
   public:
     /// Forgets what was seen. `position` is taken as known until something is seen.
@@ -20,18 +17,12 @@ class StreamPosition {
     double at(CardMoment moment) const;
 
     /// Seen often enough to be relied on.
-    bool settled() const { return seen_ >= enough; }
+    bool settled() const { return ahead_.settled(); }
 
   private:
-    static constexpr std::size_t window = 31;
-    static constexpr std::size_t enough = 5;
-
-    double median() const;
-
     CardMoment origin_;
-    std::array<double, window> ahead_{};
-    std::size_t seen_ = 0;
-    double lead_ = 0;
+    RecentMedian ahead_;
+    double lead_ = 0;  // of the stream over our clock
 };
 
 }  // namespace lyrebrook
