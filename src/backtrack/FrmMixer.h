@@ -58,7 +58,7 @@ class FrmMixer final : public Form, private DirectXEvent8 {
     void layOut();
     QBoxLayout* layOutTransport();
     QBoxLayout* layOutTempo();
-    QBoxLayout* layOutLevels();
+    void layOutLevels();
     void connectHandlers();
 
     void cmdPlay_Click();

@@ -40,7 +40,7 @@ FrmMixer::FrmMixer()
       Frame5(content(), QStringLiteral("Recording VU Meter")),
       leftVU(Frame5),
       rightVU(Frame5),
-      cbEnableVU(content(), {}, 1),
+      cbEnableVU(Frame5, {}, 1),
       cmdHelp(content(), QStringLiteral("Help")),
       btnEnd(content(), QStringLiteral("Close")) {
     cmdPlay.setToolTipText(QStringLiteral("Click to record the background music for your song."));
@@ -57,17 +57,18 @@ FrmMixer::FrmMixer()
 
 void FrmMixer::layOut() {
     fraTempo.widget()->setLayout(layOutTempo());
-    layOutLevelBars(Frame5, leftVU, rightVU);
+    layOutLevels();
 
-    Label4.setWordWrap(true);
+    Label4.names(checkSource);
     auto* source = new QHBoxLayout;
+    source->setSpacing(8);
     source->addWidget(checkSource);
     source->addWidget(Label4, 1);
 
     auto* middle = new QHBoxLayout;
     middle->setSpacing(16);
     middle->addWidget(fraTempo, 1);
-    middle->addLayout(layOutLevels());
+    middle->addWidget(Frame5);
 
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(chkSynth);
@@ -83,7 +84,9 @@ void FrmMixer::layOut() {
     column->addLayout(source);
     column->addLayout(middle);
     column->addLayout(bottom);
-    window().resize(620, 290);
+    window().layout()->setSizeConstraint(QLayout::SetFixedSize);  // nothing here gains by more room
+    QWidget::setTabOrder(cbEnableVU, chkSynth);
+    QWidget::setTabOrder(chkSynth, cmdHelp);
 }
 
 QBoxLayout* FrmMixer::layOutTransport() {
@@ -111,7 +114,10 @@ QBoxLayout* FrmMixer::layOutTransport() {
 QBoxLayout* FrmMixer::layOutTempo() {
     sldTempo.setAccessibleName(QStringLiteral("Tempo"));
     sldTempo.setValueText([](std::int32_t value) { return QStringLiteral("%1 x").arg(value / 10.0, 0, 'f', 1); });
+    constexpr int halfThumb = 7;
     auto* words = new QGridLayout;  // six equal columns: the normal tempo stands a third of the way along
+    words->setContentsMargins(halfThumb, 0, halfThumb, 0);
+    words->setHorizontalSpacing(0);
     for (int sixth = 0; sixth < 6; ++sixth) words->setColumnStretch(sixth, 1);
     words->addWidget(lblTempo[12], 0, 0, Qt::AlignLeft);
     words->addWidget(lblTempo[11], 0, 1, 1, 2, Qt::AlignHCenter);
@@ -123,13 +129,10 @@ QBoxLayout* FrmMixer::layOutTempo() {
     return column;
 }
 
-QBoxLayout* FrmMixer::layOutLevels() {
+void FrmMixer::layOutLevels() {
+    layOutLevelBars(Frame5, leftVU, rightVU);
     cbEnableVU.setAccessibleName(QStringLiteral("Recording VU Meter"));
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addWidget(Frame5);
-    row->addWidget(cbEnableVU);
-    return row;
+    Frame5.widget()->layout()->addWidget(cbEnableVU);
 }
 
 }  // namespace lyrebrook

@@ -12,8 +12,8 @@
 namespace lyrebrook {
 namespace {
 
-/// A playlist's entry in one line: a path that is too wide loses its middle, and its tool tip tells it whole. What no
-/// path can be, such as a line of megabytes from some other file, is cut before the fonts have to measure it.
+/// A list's entry in one line: a name that is too wide loses its middle, and its tool tip tells it whole. What no path
+/// can be, such as a line of megabytes from some other file, is cut before the fonts have to measure it.
 class EntryDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -22,8 +22,8 @@ class EntryDelegate final : public QStyledItemDelegate {
 
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override {
-        if (event->type() != QEvent::ToolTip || !index.isValid())
-            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        const bool fits = sizeHint(option, index).width() <= view->visualRect(index).width();
+        if (event->type() != QEvent::ToolTip || fits) return false;  // the list's own tool tip will do
         const QString entry = cut(index.data().toString(), 1000);
         QToolTip::showText(event->globalPos(), Qt::convertFromPlainText(entry), view, view->visualRect(index));
         return true;
@@ -36,9 +36,11 @@ class EntryDelegate final : public QStyledItemDelegate {
     }
 };
 
-/// A label with any text, that never makes its window wider.
-void letYield(Label& label) {
-    label.widget()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+void showEntriesInOneLine(ListBox& list) {
+    auto& view = static_cast<ListView&>(*list.widget());
+    view.setItemDelegate(new EntryDelegate(&view));
+    view.setTextElideMode(Qt::ElideMiddle);
+    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 }  // namespace
@@ -116,6 +118,8 @@ QVBoxLayout* FrmSelect::layOutBrowser() {
     File1.setToolTipText(QStringLiteral("File window"));
     File1.setAccessibleName(QStringLiteral("File window"));
     static_cast<ListView&>(*File1.widget()).enterOpens = true;  // the keyboard's double click
+    showEntriesInOneLine(File1);
+    for (QWidget* list : {Dir1.widget(), File1.widget()}) list->setMinimumHeight(100);
 
     auto* column = new QVBoxLayout;
     column->setSpacing(8);
@@ -130,17 +134,14 @@ QVBoxLayout* FrmSelect::layOutBrowser() {
 
 QVBoxLayout* FrmSelect::layOutPlaylist() {
     Label4.setLook(Look::heading);
-    letYield(Label4);
+    Label4.widget()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // no title makes the window wider
     Label8.setWordWrap(true);
     Label8.setLook(Look::hint);
     lblfeedback.setForeColor(red);
     lblfeedback.setAlignment(Qt::AlignRight);
     List1.setToolTipText(QStringLiteral("Playlist window"));
     List1.setAccessibleName(QStringLiteral("Playlist window"));
-    auto& entries = static_cast<ListView&>(*List1.widget());
-    entries.setItemDelegate(new EntryDelegate(&entries));
-    entries.setTextElideMode(Qt::ElideMiddle);
-    entries.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    showEntriesInOneLine(List1);
 
     auto* caption = new QHBoxLayout;
     caption->addWidget(Label2);

@@ -12,7 +12,7 @@
 namespace lyrebrook {
 namespace {
 
-constexpr int barHeight = 14;
+constexpr int barHeight = 18;
 constexpr int gap = 4;
 constexpr int wellWidth = static_cast<int>(LevelBars::fullWidth / twipsPerPixel);
 
@@ -46,6 +46,7 @@ void layOutLevelBars(Frame& frame, PictureBox& left, PictureBox& right) {
     left.setAccessibleName(QStringLiteral("Left recording level"));
     right.setAccessibleName(QStringLiteral("Right recording level"));
     auto* row = new QHBoxLayout(frame.widget());
+    row->setSpacing(10);
     row->addWidget(well, 0, Qt::AlignCenter);
 }
 
