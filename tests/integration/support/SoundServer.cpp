@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <memory>
+#include <sstream>
 #include <stdexcept>
 #include <thread>
 
@@ -108,6 +109,14 @@ std::string SoundServer::control(const std::string& command) const {
     std::array<char, 512> part{};
     while (std::fgets(part.data(), part.size(), answer.get()) != nullptr) text += part.data();
     return text;
+}
+
+std::string SoundServer::moduleOf(const std::string& sinkName) const {
+    std::istringstream modules(control("list short modules"));
+    for (std::string line; std::getline(modules, line);) {
+        if (line.find("sink_name=" + sinkName) != std::string::npos) return line.substr(0, line.find('\t'));
+    }
+    return {};
 }
 
 double SoundServer::processorSeconds() const {

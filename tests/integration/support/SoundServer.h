@@ -35,6 +35,9 @@ class SoundServer {
     /// A command of `pactl`; tells what it answered. What a command fails with is an empty answer.
     std::string control(const std::string& command) const;
 
+    /// Number of the module that made a sink.
+    std::string moduleOf(const std::string& sinkName) const;
+
     /// Processor time that the server has used.
     double processorSeconds() const;
 

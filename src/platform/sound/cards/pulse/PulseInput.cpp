@@ -1,5 +1,6 @@
 #include "platform/sound/cards/pulse/PulseInput.h"
 
+#include <algorithm>
 #include <span>
 
 #include "platform/sound/cards/pulse/streamSupport.h"
@@ -35,7 +36,7 @@ void PulseInput::close() {
 }
 
 bool PulseInput::arriving(CardMoment now) const {
-    return stream_ != nullptr && now - arrived_ < arrivingWithin;
+    return now - arrived_ < arrivingWithin;
 }
 
 /// The output moves to another sink when its own goes, or when a person moves it; the monitor goes along.
@@ -55,7 +56,6 @@ void PulseInput::findMonitor(pa_context& server) {
 
 void PulseInput::open(pa_context& server, CardMoment now) {
     tried_ = now;
-    arrived_ = now;
     opened_ = target();
     clock_.restart();
     lead_.restart();
@@ -78,7 +78,7 @@ void PulseInput::open(pa_context& server, CardMoment now) {
 
 bool PulseInput::stillGood(CardMoment now) const {
     const pa_stream_state_t state = pa_stream_get_state(stream_.get());
-    if (!PA_STREAM_IS_GOOD(state) || opened_ != target() || now - arrived_ > longestWait) return false;
+    if (!PA_STREAM_IS_GOOD(state) || opened_ != target() || now - std::max(tried_, arrived_) > longestWait) return false;
     return state != PA_STREAM_READY || opened_ == pa_stream_get_device_name(stream_.get());
 }
 

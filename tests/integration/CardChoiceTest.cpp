@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+
+#include "integration/support/SoundServer.h"
+#include "platform/sound/cards/PulseCard.h"
+#include "platform/sound/cards/VirtualCard.h"
+#include "platform/sound/cards/chooseCard.h"
+
+namespace lyrebrook {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A socket that lets everybody in and never says a word.
+class MuteServer {
+  public:
+    explicit MuteServer(const std::filesystem::path& path) {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        path.string().copy(address.sun_path, sizeof address.sun_path - 1);
+        EXPECT_EQ(bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+        EXPECT_EQ(listen(socket_, 4), 0);
+    }
+    ~MuteServer() { close(socket_); }
+    MuteServer(const MuteServer&) = delete;
+    MuteServer& operator=(const MuteServer&) = delete;
+
+  private:
+    int socket_ = socket(AF_UNIX, SOCK_STREAM, 0);
+};
+
+struct Choice {
+    bool pulse = false;
+    std::int32_t outputs = 0;
+    std::chrono::steady_clock::duration took{};
+};
+
+Choice choose() {
+    const auto begun = std::chrono::steady_clock::now();
+    const auto card = chooseCard();
+    return {dynamic_cast<PulseCard*>(card.get()) != nullptr, card->outputCount(),
+            std::chrono::steady_clock::now() - begun};
+}
+
+TEST(CardChoice, TheServerIsTakenWithTheOutputsItReallyHas) {
+    SoundServer server(ServerKind::pulseAudio);
+    server.start();
+    const Choice choice = choose();
+    EXPECT_TRUE(choice.pulse);
+    EXPECT_EQ(choice.outputs, 1);
+    server.control("unload-module module-null-sink");
+    EXPECT_EQ(choose().outputs, 0) << "the server's stand-in can't be heard";
+}
+
+TEST(CardChoice, WithoutAServerTheEmbeddedCardIsTakenAtOnce) {
+    const SoundServer neverStarted(ServerKind::pulseAudio);
+    const Choice choice = choose();
+    EXPECT_FALSE(choice.pulse);
+    EXPECT_LT(choice.took, 500ms);
+}
+
+TEST(CardChoice, AServerThatNeverAnswersIsWaitedForNoLongerThanASecond) {
+    const SoundServer place(ServerKind::pulseAudio);
+    const MuteServer mute(place.folder() / "pulse/native");
+    const Choice choice = choose();
+    EXPECT_FALSE(choice.pulse);
+    EXPECT_LE(choice.took, 1000ms);
+}
+
+}  // namespace
+}  // namespace lyrebrook

@@ -1,0 +1,114 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "integration/support/ServerDesk.h"
+
+namespace lyrebrook {
+namespace {
+
+constexpr Frames takeLength = 30 * framesPerSecond;
+constexpr double millisecond = framesPerSecond / 1000.0;
+
+/// A click track that plays and a take that records the monitor, for some time already.
+class DeviceLoss : public testing::TestWithParam<ServerKind> {
+  protected:
+    DeviceLoss() : desk(GetParam()) {
+        wait(500ms);
+        beginTake();
+        EXPECT_TRUE(waitUntil([this] { return capturedFrames(*take) > framesPerSecond; }, 4s));
+    }
+
+    void beginTake() {
+        track = desk.buffer(clicks(takeLength));
+        take = desk.capture(takeLength);
+        const SoundTransaction together(SoundSystem::engine());
+        track->Play(0);
+        take->Start(0);
+    }
+
+    /// The timeline keeps step with the clock for a while.
+    void expectTimelineGoesOn(std::chrono::milliseconds time) {
+        const Frames from = SoundSystem::engine()->mixedFrames();
+        const auto begun = std::chrono::steady_clock::now();
+        wait(time);
+        const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - begun;
+        const Frames mixed = SoundSystem::engine()->mixedFrames() - from;
+        EXPECT_NEAR(static_cast<double>(mixed), passed.count() * framesPerSecond, 60 * millisecond);
+    }
+
+    bool takeGrows(std::chrono::milliseconds limit) {
+        const Frames before = capturedFrames(*take);
+        return waitUntil([&] { return capturedFrames(*take) > before + framesPerSecond; }, limit);
+    }
+
+    /// What grows the take first is the hole.
+    bool takeGoesOn() { return takeGrows(8s) && takeGrows(4s); }
+
+    void expectInTime(const Sound& sound, Frames start) {
+        EXPECT_LE(std::abs(clicksBehind(sound, start)), 8 * millisecond);
+    }
+
+    ServerDesk desk;
+    std::unique_ptr<DirectSoundSecondaryBuffer8> track;
+    std::unique_ptr<DirectSoundCaptureBuffer8> take;
+};
+
+TEST_P(DeviceLoss, TheTakeOutlivesItsServerAndGoesOnWithTheNextOne) {
+    desk.server.kill();
+    expectTimelineGoesOn(1000ms);
+    const Frames kept = capturedFrames(*take);
+    EXPECT_TRUE(waitUntil([this] { return desk.card->notice() == CardNotice::outputLost; }, 3s));
+
+    desk.server.start();
+    EXPECT_TRUE(takeGoesOn());
+    EXPECT_EQ(desk.card->notice(), CardNotice::none);
+    take->Stop();
+    const Sound sound = captured(*take);
+    expectInTime({sound.begin(), sound.begin() + kept}, 0);
+    const Frames last = static_cast<Frames>(sound.size()) - framesPerSecond;
+    expectInTime({sound.begin() + last, sound.end()}, last);
+}
+
+TEST_P(DeviceLoss, AVanishedOutputTakesItsMonitorAlongAndBothComeBack) {
+    desk.server.control("unload-module module-null-sink");
+    expectTimelineGoesOn(1000ms);
+    desk.server.control(std::string("load-module module-null-sink sink_name=") + SoundServer::sink);
+    EXPECT_TRUE(takeGoesOn());
+    take->Stop();
+    const Sound sound = captured(*take);
+    const Frames last = static_cast<Frames>(sound.size()) - framesPerSecond;
+    expectInTime({sound.begin() + last, sound.end()}, last);
+}
+
+TEST_P(DeviceLoss, AnotherDefaultSourceChangesNothing) {
+    desk.server.control("load-module module-null-sink sink_name=other");
+    desk.server.control("set-default-source other.monitor");
+    EXPECT_TRUE(takeGrows(4s));
+    take->Stop();
+    EXPECT_EQ(desk.card->lostInput(), 0);
+    expectInTime(captured(*take), 0);
+}
+
+TEST_P(DeviceLoss, AMissingSourceIsNotReplacedByAnother) {
+    desk.server.control("load-module module-null-sink sink_name=other");
+    desk.card->selectSource({.kind = RecordingSource::Kind::named, .name = "other.monitor"});
+    EXPECT_TRUE(takeGrows(4s));
+
+    desk.server.control("unload-module " + desk.server.moduleOf("other"));
+    EXPECT_TRUE(waitUntil([this] { return desk.card->notice() == CardNotice::inputLost; }, 8s));
+    const Frames kept = capturedFrames(*take);
+    wait(1s);
+    EXPECT_EQ(capturedFrames(*take), kept);
+
+    desk.server.control("load-module module-null-sink sink_name=other");
+    EXPECT_TRUE(takeGrows(8s));
+    EXPECT_EQ(desk.card->notice(), CardNotice::none);
+    EXPECT_GT(desk.card->lostInput(), framesPerSecond);
+}
+
+INSTANTIATE_TEST_SUITE_P(Servers, DeviceLoss, bothServers, serverName);
+
+}  // namespace
+}  // namespace lyrebrook
