@@ -43,25 +43,26 @@ void CaptureClock::put(StereoFrame frame) noexcept {
 }
 
 void CaptureClock::deliver(double lead, SoundCardClient& client) noexcept {
-    if (!placed_) {
-        placed_ = true;
-        const Frames wanted = at_ + std::lrint(lead);
-        if (wanted >= place_) {
-            if (everPlaced_) lost_ += wanted - place_;
-            place_ = wanted;
-        } else {
-            at_ += place_ - wanted;
-        }
-        everPlaced_ = true;
-    }
+    if (!placed_) findPlace(std::lrint(lead));
     while (ready()) {
         correct(lead);
         const std::size_t count = fillBlock();
-        if (count == 0) return;
         const Frames first = place_;
         place_ += static_cast<Frames>(count);
-        client.framesCaptured(first, std::span{block_}.first(count));
+        if (count > 0) client.framesCaptured(first, std::span{block_}.first(count));
     }
+}
+
+/// Where an input that was opened anew would overlap with what was there before, its first frames are left out.
+void CaptureClock::findPlace(Frames lead) noexcept {
+    const Frames step = at_ + lead - place_;
+    if (everPlaced_) {
+        leap(step);
+    } else {
+        place_ += step;
+    }
+    placed_ = true;
+    everPlaced_ = true;
 }
 
 void CaptureClock::correct(double lead) noexcept {
@@ -82,9 +83,21 @@ void CaptureClock::leap(Frames frames) noexcept {
 }
 
 std::size_t CaptureClock::fillBlock() noexcept {
+    return glide_.gliding() ? fillGliding() : fillSteady();
+}
+
+std::size_t CaptureClock::fillSteady() noexcept {
+    const Frames count = std::clamp<Frames>(end_ - at_ - lookAhead, 0, mixBlockFrames);
+    for (Frames i = 0; i < count; ++i) {
+        block_[static_cast<std::size_t>(i)] = ring_[static_cast<std::size_t>(at_ + i) % ringFrames];
+    }
+    at_ += count;
+    return static_cast<std::size_t>(count);
+}
+
+std::size_t CaptureClock::fillGliding() noexcept {
     std::size_t count = 0;
-    const bool gliding = glide_.gliding();
-    while (count < block_.size() && ready() && glide_.gliding() == gliding) {
+    while (count < block_.size() && ready() && glide_.gliding()) {
         block_[count++] = glide_.read(around(at_));
         at_ += static_cast<Frames>(glide_.advance());
     }

@@ -34,13 +34,17 @@ class CaptureClock {
 
   private:
     static constexpr std::size_t ringFrames = 65536;
+    static constexpr Frames lookAhead = FrameGlide::from - 1;
 
     void put(StereoFrame frame) noexcept;
+    void findPlace(Frames lead) noexcept;
     void correct(double lead) noexcept;
     void leap(Frames frames) noexcept;
     std::size_t fillBlock() noexcept;
+    std::size_t fillSteady() noexcept;
+    std::size_t fillGliding() noexcept;
     std::array<StereoFrame, FrameGlide::before + FrameGlide::from> around(Frames frame) const noexcept;
-    bool ready() const { return end_ - at_ >= static_cast<Frames>(FrameGlide::from); }
+    bool ready() const { return end_ - at_ > lookAhead; }
 
     std::vector<StereoFrame> ring_;
     std::array<StereoFrame, mixBlockFrames> block_{};

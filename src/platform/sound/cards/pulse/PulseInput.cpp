@@ -78,7 +78,8 @@ void PulseInput::open(pa_context& server, CardMoment now) {
 
 bool PulseInput::stillGood(CardMoment now) const {
     const pa_stream_state_t state = pa_stream_get_state(stream_.get());
-    if (!PA_STREAM_IS_GOOD(state) || opened_ != target() || now - std::max(tried_, arrived_) > longestWait) return false;
+    if (!PA_STREAM_IS_GOOD(state) || opened_ != target() || now - std::max(tried_, arrived_) > longestWait)
+        return false;
     return state != PA_STREAM_READY || opened_ == pa_stream_get_device_name(stream_.get());
 }
 
