@@ -71,8 +71,8 @@ class Desk final : private SoundCardClient {
     double lead_;
     Frames expected_;
     Frames heard_ = 0;
-    double last_ = 0;
-    double beforeLast_ = 0;
+    double last_ = tone(-1);
+    double beforeLast_ = tone(-2);
     double sharpest_ = 0;
 };
 
