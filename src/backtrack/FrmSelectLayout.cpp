@@ -105,6 +105,7 @@ void FrmSelect::layOut() {
     column->setSpacing(14);
     column->addLayout(frames, 1);
     column->addLayout(buttons);
+    window().setMinimumSize(800, 540);  // a wrapped label asks for less than it needs
     window().resize(960, 600);
 }
 
