@@ -56,7 +56,7 @@ double lateness(ServerDesk& desk, Start start) {
         track->Play(0);
         take->Start(0);
     }
-    EXPECT_TRUE(waitUntil([&] { return capturedFrames(*take) > framesPerSecond + clickDistance / 2; }, 4s));
+    EXPECT_TRUE(waitUntil([&] { return capturedFrames(*take) > clickDistance * 3 / 2; }, 4s));
     track->Stop();
     take->Stop();
     return clicksBehind(captured(*take), recordStart) * 1000 / framesPerSecond;

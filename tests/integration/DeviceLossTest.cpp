@@ -71,6 +71,31 @@ TEST_P(DeviceLoss, TheTakeOutlivesItsServerAndGoesOnWithTheNextOne) {
     expectInTime({sound.begin() + last, sound.end()}, last);
 }
 
+TEST_P(DeviceLoss, AServerThatStandsStillHoldsNothingUp) {
+    desk.server.freeze();
+    expectTimelineGoesOn(2000ms);
+    desk.server.thaw();
+    EXPECT_TRUE(takeGoesOn());
+    expectTimelineGoesOn(1000ms);
+    take->Stop();
+    const Sound sound = captured(*take);
+    const Frames last = static_cast<Frames>(sound.size()) - framesPerSecond;
+    expectInTime({sound.begin() + last, sound.end()}, last);
+}
+
+TEST_P(DeviceLoss, TheProgramsOwnSoundNeedsNoDevice) {
+    desk.card->selectSource({.kind = RecordingSource::Kind::ownOutput, .name = {}});
+    wait(200ms);
+    desk.server.control(std::string("set-sink-mute ") + SoundServer::sink + " 1");
+    beginTake();
+    EXPECT_TRUE(takeGrows(4s));
+    desk.server.kill();
+    EXPECT_TRUE(takeGrows(4s));
+    take->Stop();
+    const Sound sound = captured(*take);
+    EXPECT_EQ(sound, clicks(static_cast<Frames>(sound.size())));
+}
+
 TEST_P(DeviceLoss, AVanishedOutputTakesItsMonitorAlongAndBothComeBack) {
     desk.server.control("unload-module module-null-sink");
     expectTimelineGoesOn(1000ms);

@@ -102,6 +102,14 @@ void SoundServer::kill() {
     }
 }
 
+void SoundServer::freeze() const {
+    ::kill(-process_, SIGSTOP);
+}
+
+void SoundServer::thaw() const {
+    ::kill(-process_, SIGCONT);
+}
+
 std::string SoundServer::control(const std::string& command) const {
     const std::unique_ptr<FILE, int (*)(FILE*)> answer(popen(("pactl " + command + " 2>/dev/null").c_str(), "r"),
                                                        pclose);

@@ -32,6 +32,10 @@ class SoundServer {
     /// At once, as in a crash.
     void kill();
 
+    /// Stands still, as a hung server does, and goes on.
+    void freeze() const;
+    void thaw() const;
+
     /// A command of `pactl`; tells what it answered. What a command fails with is an empty answer.
     std::string control(const std::string& command) const;
 

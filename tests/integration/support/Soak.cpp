@@ -1,0 +1,66 @@
+#include "integration/support/Soak.h"
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <iomanip>
+
+namespace lyrebrook {
+namespace {
+
+constexpr Frames roundLength = 60 * framesPerSecond;
+constexpr Frames looked = 5 * framesPerSecond;
+
+double millisecondsBehind(const Sound& sound, Frames from) {
+    return clicksBehind({sound.begin() + from, sound.begin() + from + looked}, from) * 1000 / framesPerSecond;
+}
+
+long residentKilobytes() {
+    long size = 0;
+    long resident = 0;
+    std::ifstream("/proc/self/statm") >> size >> resident;
+    return resident * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+double ownProcessorSeconds() {
+    rusage used{};
+    getrusage(RUSAGE_SELF, &used);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    return seconds(used.ru_utime) + seconds(used.ru_stime);
+}
+
+}  // namespace
+
+std::ostream& operator<<(std::ostream& out, const SoakRound& round) {
+    return out << std::fixed << std::setprecision(2) << "behind " << round.behindAtStart << " ms to "
+               << round.behindAtEnd << " ms, resident " << round.residentKilobytes << " kB, processor "
+               << round.ownSeconds << " s, server " << round.serverSeconds << " s";
+}
+
+Soak::Soak(ServerKind kind)
+    : desk_(kind), track_(desk_.buffer(clicks(roundLength))), take_(desk_.capture(roundLength)) {
+    wait(1s);
+}
+
+SoakRound Soak::round() {
+    {
+        const SoundTransaction together(SoundSystem::engine());
+        track_->SetCurrentPosition(0);
+        track_->Play(0);
+        take_->Start(0);
+    }
+    EXPECT_TRUE(waitUntil([this] { return capturedFrames(*take_) == roundLength; }, 70s));
+    track_->Stop();
+    take_->Stop();
+    const Sound sound = captured(*take_);
+    return {.behindAtStart = millisecondsBehind(sound, 0),
+            .behindAtEnd = millisecondsBehind(sound, roundLength - looked),
+            .residentKilobytes = residentKilobytes(),
+            .ownSeconds = ownProcessorSeconds(),
+            .serverSeconds = desk_.server.processorSeconds()};
+}
+
+}  // namespace lyrebrook
