@@ -46,7 +46,7 @@ class DeviceLoss : public testing::TestWithParam<ServerKind> {
     /// What grows the take first is the hole.
     bool takeGoesOn() { return takeGrows(8s) && takeGrows(4s); }
 
-    void expectInTime(const Sound& sound, Frames start) {
+    void expectInTime(std::span<const StereoFrame> sound, Frames start) {
         EXPECT_LE(std::abs(clicksBehind(sound, start)), 8 * millisecond);
     }
 
@@ -66,9 +66,9 @@ TEST_P(DeviceLoss, TheTakeOutlivesItsServerAndGoesOnWithTheNextOne) {
     EXPECT_EQ(desk.card->notice(), CardNotice::none);
     take->Stop();
     const Sound sound = captured(*take);
-    expectInTime({sound.begin(), sound.begin() + kept}, 0);
+    expectInTime(std::span(sound).first(static_cast<std::size_t>(kept)), 0);
     const Frames last = static_cast<Frames>(sound.size()) - framesPerSecond;
-    expectInTime({sound.begin() + last, sound.end()}, last);
+    expectInTime(std::span(sound).subspan(static_cast<std::size_t>(last)), last);
 }
 
 TEST_P(DeviceLoss, AServerThatStandsStillHoldsNothingUp) {
@@ -80,7 +80,7 @@ TEST_P(DeviceLoss, AServerThatStandsStillHoldsNothingUp) {
     take->Stop();
     const Sound sound = captured(*take);
     const Frames last = static_cast<Frames>(sound.size()) - framesPerSecond;
-    expectInTime({sound.begin() + last, sound.end()}, last);
+    expectInTime(std::span(sound).subspan(static_cast<std::size_t>(last)), last);
 }
 
 TEST_P(DeviceLoss, TheProgramsOwnSoundNeedsNoDevice) {
@@ -104,7 +104,7 @@ TEST_P(DeviceLoss, AVanishedOutputTakesItsMonitorAlongAndBothComeBack) {
     take->Stop();
     const Sound sound = captured(*take);
     const Frames last = static_cast<Frames>(sound.size()) - framesPerSecond;
-    expectInTime({sound.begin() + last, sound.end()}, last);
+    expectInTime(std::span(sound).subspan(static_cast<std::size_t>(last)), last);
 }
 
 TEST_P(DeviceLoss, AnotherDefaultSourceChangesNothing) {

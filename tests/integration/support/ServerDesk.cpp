@@ -25,7 +25,7 @@ Sound clicks(Frames length) {
     return sound;
 }
 
-double clicksBehind(const Sound& recording, Frames start) {
+double clicksBehind(std::span<const StereoFrame> recording, Frames start) {
     std::vector<double> found;
     Frames quietFrom = 0;
     for (Frames at = 0; at < static_cast<Frames>(recording.size()); ++at) {

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <span>
 #include <thread>
 #include <vector>
 
@@ -26,7 +27,7 @@ Sound clicks(Frames length);
 
 /// How far the clicks of a recording lie behind the places where they ought to be, given the frame of the click track
 /// that the recording starts with; the median, in frames. A failure when there are none.
-double clicksBehind(const Sound& recording, Frames start);
+double clicksBehind(std::span<const StereoFrame> recording, Frames start);
 
 /// Waits in real time.
 void wait(std::chrono::milliseconds time);

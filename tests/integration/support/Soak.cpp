@@ -12,10 +12,6 @@ namespace {
 constexpr Frames roundLength = 60 * framesPerSecond;
 constexpr Frames looked = 5 * framesPerSecond;
 
-double millisecondsBehind(const Sound& sound, Frames from) {
-    return clicksBehind({sound.begin() + from, sound.begin() + from + looked}, from) * 1000 / framesPerSecond;
-}
-
 long residentKilobytes() {
     long size = 0;
     long resident = 0;
@@ -41,7 +37,10 @@ std::ostream& operator<<(std::ostream& out, const SoakRound& round) {
 }
 
 Soak::Soak(ServerKind kind)
-    : desk_(kind), track_(desk_.buffer(clicks(roundLength))), take_(desk_.capture(roundLength)) {
+    : desk_(kind),
+      track_(desk_.buffer(clicks(roundLength))),
+      take_(desk_.capture(roundLength)),
+      recorded_(static_cast<std::size_t>(roundLength)) {
     wait(1s);
 }
 
@@ -55,12 +54,17 @@ SoakRound Soak::round() {
     EXPECT_TRUE(waitUntil([this] { return capturedFrames(*take_) == roundLength; }, 70s));
     track_->Stop();
     take_->Stop();
-    const Sound sound = captured(*take_);
-    return {.behindAtStart = millisecondsBehind(sound, 0),
-            .behindAtEnd = millisecondsBehind(sound, roundLength - looked),
+    take_->ReadBuffer(0, toBytes(roundLength), std::as_writable_bytes(std::span(recorded_)), 0);
+    return {.behindAtStart = millisecondsBehind(0),
+            .behindAtEnd = millisecondsBehind(roundLength - looked),
             .residentKilobytes = residentKilobytes(),
             .ownSeconds = ownProcessorSeconds(),
             .serverSeconds = desk_.server.processorSeconds()};
+}
+
+double Soak::millisecondsBehind(Frames from) const {
+    const auto part = std::span(recorded_).subspan(static_cast<std::size_t>(from), static_cast<std::size_t>(looked));
+    return clicksBehind(part, from) * 1000 / framesPerSecond;
 }
 
 }  // namespace lyrebrook

@@ -26,9 +26,12 @@ class Soak {
     std::uint32_t underruns() const { return desk_.card->underruns(); }
 
   private:
+    double millisecondsBehind(Frames from) const;
+
     ServerDesk desk_;
     std::unique_ptr<DirectSoundSecondaryBuffer8> track_;
     std::unique_ptr<DirectSoundCaptureBuffer8> take_;
+    Sound recorded_;  // made once, so that what grows is not this
 };
 
 }  // namespace lyrebrook

@@ -130,7 +130,7 @@ std::string SoundServer::moduleOf(const std::string& sinkName) const {
 double SoundServer::processorSeconds() const {
     double seconds = 0;
     for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
-        seconds += secondsOfGroupMember(entry.path() / "stat", process_);
+        if (is_regular_file(entry.path() / "stat")) seconds += secondsOfGroupMember(entry.path() / "stat", process_);
     }
     return seconds;
 }
