@@ -60,10 +60,10 @@ void FrmMixer::Form_Load() {
 void FrmMixer::Form_Activate() {
     setMousePointer(MousePointer::hourglass);
     DoEvents();
-    if (!dx_) return;  // unloaded by what was pending
-    ds_ = openPlayback(*dx_);
+    if (!music_.dx) return;  // unloaded by what was pending
+    ds_ = openPlayback(*music_.dx);
     ds_->SetCooperativeLevel(static_cast<std::int64_t>(window().winId()), DSSCL_PRIORITY);
-    dsc_ = openRecording(*dx_);
+    dsc_ = openRecording(*music_.dx);
     if (!playing && !vuBuffer_) StartVUCapture();
     Timer1.setEnabled(true);
     leftVU.setVisible(true);
@@ -82,14 +82,7 @@ void FrmMixer::Form_Unload() {
 
 void FrmMixer::InitAudio() {
     try {
-        dx_ = std::make_unique<DirectX8>();
-        perf_ = dx_->DirectMusicPerformanceCreate();
-        loader_ = dx_->DirectMusicLoaderCreate();
-        perf_->InitAudio(static_cast<std::int64_t>(window().winId()), DMUS_AUDIOF_ALL, DMUS_APATH_DYNAMIC_STEREO, 128);
-        perf_->SetMasterAutoDownload(true);
-        perf_->AddNotificationType(DMUS_NOTIFY_ON_SEGMENT);
-        hEvent_ = dx_->CreateEvent(*this);
-        perf_->SetNotificationHandle(hEvent_);
+        music_.open(static_cast<std::int64_t>(window().winId()), *this);
     } catch (const RuntimeError&) {
         MsgBox(QStringLiteral("Could not initialize DirectMusic. Please make sure that DirectX 8.1 is installed."
                               "\r\nThis program will end."),
@@ -103,19 +96,19 @@ void FrmMixer::InitAudio() {
 bool FrmMixer::LoadTrack() {
     try {
         if (playing) cmdStop_Click();
-        if (seg_) seg_->Unload(perf_->GetDefaultAudioPath());
-        seg_.reset();
+        if (music_.seg) music_.seg->Unload(music_.perf->GetDefaultAudioPath());
+        music_.seg.reset();
         const bool isBacktrack = trackMode_ == TrackMode::backTrack;
         if (isBacktrack) EnableTempo(hasTempo(backtrackPath_));
         const QString recorded = App::Path() + QStringLiteral("/songs/") + gSongName + QStringLiteral("_1.wav");
-        seg_ = loader_->LoadSegment(nativePath(isBacktrack ? backtrackPath_ : recorded));
-        if (isBacktrack && isMidiForRecording(backtrackPath_)) seg_->SetStandardMidiFile();
+        music_.load(isBacktrack ? backtrackPath_ : recorded);
+        if (isBacktrack && isMidiForRecording(backtrackPath_)) music_.seg->SetStandardMidiFile();
         EnablePlayUI(true);
         sldTempo.setValue(normalTempo);
         sldTempo_Change();
         return true;
     } catch (const RuntimeError&) {
-        seg_.reset();
+        music_.seg.reset();
         return false;
     }
 }
@@ -137,7 +130,7 @@ void FrmMixer::EnablePlayUI(bool enable) {
 }
 
 void FrmMixer::sldTempo_Change() {
-    perf_->SetMasterTempo(static_cast<float>(sldTempo.Value()) / normalTempo);
+    music_.perf->SetMasterTempo(static_cast<float>(sldTempo.Value()) / normalTempo);
 }
 
 void FrmMixer::cmdPlay_Click() {
@@ -151,7 +144,7 @@ void FrmMixer::cmdPlay_Click() {
     StopVUCapture();
     // Music and capture start on one frame, so the recording holds the backtrack's first sound.
     const SoundTransaction together(SoundSystem::engine());
-    if (seg_) {
+    if (music_.seg) {
         playSegment();
         EnablePlayUI(false);
         playing = true;
@@ -169,7 +162,7 @@ void FrmMixer::cmdListen_Click() {
         }
     }
     StopVUCapture();
-    if (!seg_) return;
+    if (!music_.seg) return;
     playSegment();
     lblRecording.setVisible(true);
     EnablePlayUI(false);
@@ -178,13 +171,13 @@ void FrmMixer::cmdListen_Click() {
 
 void FrmMixer::playSegment() {
     constexpr std::int32_t forEver = -1;
-    seg_->SetRepeats(chkLoop.Value() == 1 ? forEver : 0);
-    if (checkSource.Value() != 1) perf_->PlaySegmentEx(*seg_);
+    music_.seg->SetRepeats(chkLoop.Value() == 1 ? forEver : 0);
+    if (checkSource.Value() != 1) music_.perf->PlaySegmentEx(*music_.seg);
 }
 
 void FrmMixer::cmdStop_Click() {
     playing = false;
-    if (seg_) perf_->StopEx(*seg_);
+    if (music_.seg) music_.perf->StopEx(*music_.seg);
     EnablePlayUI(true);
     if (trackMode_ == TrackMode::backTrack) SaveRecording();
     lblRecording.setVisible(false);
@@ -197,7 +190,7 @@ void FrmMixer::DXCallback(std::int32_t) {
 
 void FrmMixer::DirectXEvent8_DXCallback() {
     DMUS_NOTIFICATION_PMSG message;
-    const bool read = perf_->GetNotificationPMSG(message);
+    const bool read = music_.perf->GetNotificationPMSG(message);
     if (read && message.lNotificationOption != DMUS_NOTIFICATION_SEGEND) return;
     cmdStop_Click();
     EnablePlayUI(true);
@@ -219,7 +212,7 @@ void FrmMixer::SaveRecording() {
     lblRecording.setForeColor(black);
     lblRecording.setCaption(QStringLiteral("S A V I N G"));
     DoEvents();
-    if (!dx_) return;  // closed meanwhile, like any recording that runs
+    if (!music_.dx) return;  // closed meanwhile, like any recording that runs
     setMousePointer(MousePointer::hourglass);
     if (recordBuffer_) recordBuffer_->Stop();
     const auto recorded = GetSoundBufferFromCapture(recordBuffer_.get());
@@ -292,18 +285,12 @@ void FrmMixer::showState() {
 }
 
 void FrmMixer::CloseAudio() {
-    if (perf_) perf_->RemoveNotificationType(DMUS_NOTIFY_ON_SEGMENT);
-    if (dx_) dx_->DestroyEvent(hEvent_);
-    if (seg_) perf_->StopEx(*seg_);
-    seg_.reset();
-    loader_.reset();
-    if (perf_) perf_->CloseDown();
-    perf_.reset();
+    music_.close();
     if (recordBuffer_) recordBuffer_->Stop();
     recordBuffer_.reset();
     dsc_.reset();
     ds_.reset();
-    dx_.reset();
+    music_.dx.reset();
 }
 
 }  // namespace lyrebrook

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "platform/directx/DirectX8.h"
+#include "backtrack/BacktrackMusic.h"
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/ControlArray.h"
@@ -85,11 +85,7 @@ class FrmMixer final : public Form, private DirectXEvent8 {
     void DXCallback(std::int32_t eventId) override;
     void DirectXEvent8_DXCallback();
 
-    std::unique_ptr<DirectX8> dx_;
-    std::unique_ptr<DirectMusicPerformance8> perf_;
-    std::unique_ptr<DirectMusicLoader8> loader_;
-    std::unique_ptr<DirectMusicSegment8> seg_;
-    std::int32_t hEvent_ = 0;
+    BacktrackMusic music_;
     std::unique_ptr<DirectSound8> ds_;
     std::unique_ptr<DirectSoundCapture8> dsc_;
     std::unique_ptr<DirectSoundCaptureBuffer8> recordBuffer_;

@@ -175,14 +175,7 @@ void FrmSelect::CmdSave_Click() {
 
 void FrmSelect::InitAudio() {
     try {
-        dx_ = std::make_unique<DirectX8>();
-        perf_ = dx_->DirectMusicPerformanceCreate();
-        loader_ = dx_->DirectMusicLoaderCreate();
-        perf_->InitAudio(static_cast<std::int64_t>(window().winId()), DMUS_AUDIOF_ALL, DMUS_APATH_DYNAMIC_STEREO, 128);
-        perf_->SetMasterAutoDownload(true);
-        perf_->AddNotificationType(DMUS_NOTIFY_ON_SEGMENT);
-        hEvent_ = dx_->CreateEvent(*this);
-        perf_->SetNotificationHandle(hEvent_);
+        music_.open(static_cast<std::int64_t>(window().winId()), *this);
     } catch (const RuntimeError& error) {
         MsgBox(QStringLiteral("Could not initialize DirectMusic.\r\nThis program will end."), vbInformation,
                QStringLiteral("Exiting..."));
@@ -195,18 +188,18 @@ void FrmSelect::InitAudio() {
 void FrmSelect::LoadBacktrack() {
     try {
         if (playing_) cmdStop_Click();
-        if (seg_) perf_->StopEx(*seg_);
-        seg_.reset();
-        seg_ = loader_->LoadSegment(nativePath(currentFile_));
-        if (isMidiForListening(currentFile_)) seg_->SetStandardMidiFile();
+        if (music_.seg) music_.perf->StopEx(*music_.seg);
+        music_.seg.reset();
+        music_.load(currentFile_);
+        if (isMidiForListening(currentFile_)) music_.seg->SetStandardMidiFile();
     } catch (const RuntimeError&) {
-        seg_.reset();  // recording the backtrack will say that it can't be loaded
+        music_.seg.reset();  // recording the backtrack will say that it can't be loaded
     }
 }
 
 void FrmSelect::cmdListen_Click() {
-    if (seg_) {
-        perf_->PlaySegmentEx(*seg_);
+    if (music_.seg) {
+        music_.perf->PlaySegmentEx(*music_.seg);
         playing_ = true;
     }
     cmdListen.setEnabled(false);
@@ -215,7 +208,7 @@ void FrmSelect::cmdListen_Click() {
 
 void FrmSelect::cmdStop_Click() {
     playing_ = false;
-    if (seg_) perf_->StopEx(*seg_);
+    if (music_.seg) music_.perf->StopEx(*music_.seg);
     cmdListen.setEnabled(true);
     cmdStop.setEnabled(false);
 }
@@ -226,7 +219,7 @@ void FrmSelect::DXCallback(std::int32_t) {
 
 void FrmSelect::DirectXEvent8_DXCallback() {
     DMUS_NOTIFICATION_PMSG message;
-    if (!perf_->GetNotificationPMSG(message)) {
+    if (!music_.perf->GetNotificationPMSG(message)) {
         MsgBox(QStringLiteral("Error processing this Notification"), vbInformation, QStringLiteral("Cannot Process."));
         return;
     }
@@ -237,14 +230,8 @@ void FrmSelect::DirectXEvent8_DXCallback() {
 }
 
 void FrmSelect::CloseAudio() {
-    if (perf_) perf_->RemoveNotificationType(DMUS_NOTIFY_ON_SEGMENT);
-    if (dx_) dx_->DestroyEvent(hEvent_);
-    if (seg_) perf_->StopEx(*seg_);
-    seg_.reset();
-    loader_.reset();
-    if (perf_) perf_->CloseDown();
-    perf_.reset();
-    dx_.reset();
+    music_.close();
+    music_.dx.reset();
 }
 
 }  // namespace lyrebrook

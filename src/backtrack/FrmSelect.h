@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "platform/directx/DirectX8.h"
+#include "backtrack/BacktrackMusic.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/CommonDialog.h"
 #include "platform/forms/DirListBox.h"
@@ -78,11 +78,7 @@ class FrmSelect final : public Form, private DirectXEvent8 {
     void DXCallback(std::int32_t eventId) override;
     void DirectXEvent8_DXCallback();
 
-    std::unique_ptr<DirectX8> dx_;
-    std::unique_ptr<DirectMusicPerformance8> perf_;
-    std::unique_ptr<DirectMusicLoader8> loader_;
-    std::unique_ptr<DirectMusicSegment8> seg_;
-    std::int32_t hEvent_ = 0;
+    BacktrackMusic music_;
     bool playing_ = false;
     QString currentFile_;
     Event<> segmentMessage_;

@@ -7,7 +7,7 @@
 namespace lyrebrook {
 
 QString pZ(std::int16_t value) {
-    const QString digits = QString::number(value);
+    QString digits = QString::number(value);
     switch (digits.size()) {
         case 1:
             return u'0' + digits;

@@ -17,7 +17,7 @@ QPainterPath stringPath(const QRectF& area, int string) {
     const double middle = area.height() * (0.66 + 0.055 * string);
     const double swing = area.height() * 0.08 * (strings - string) / strings;
     QPainterPath path(QPointF(0, middle));
-    for (double x = 2; x <= area.width(); x += 2) {
+    for (int x = 2; x <= area.width(); x += 2) {
         path.lineTo(x, middle + swing * std::sin(2 * std::numbers::pi * x / area.width()));
     }
     return path;

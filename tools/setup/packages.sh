@@ -6,7 +6,8 @@ build_packages=(
     fluid-soundfont-gm fonts-dejavu-core
 )
 test_packages=(
-    clang-format clang-tidy-19 git googletest libgmock-dev libgtest-dev procps sox util-linux xauth xvfb
+    clang-format clang-tidy-19 git googletest libgmock-dev libgtest-dev procps
+    dbus pipewire pipewire-pulse pulseaudio pulseaudio-utils wireplumber
 )
 
 # install_packages NAME...: installs those that are missing and says so; asks for nothing where all are there.

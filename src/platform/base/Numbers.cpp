@@ -29,7 +29,7 @@ std::string_view withoutBlanks(std::string_view text) {
 
 double textToDouble(std::string_view text) {
     text = withoutBlanks(text);
-    if (text.starts_with('+')) text.remove_prefix(1);
+    if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error == std::errc::result_out_of_range) throw RuntimeError(RuntimeErrorNumber::overflow, "Overflow");

@@ -38,7 +38,7 @@ bool isMapped(std::uintptr_t address) noexcept {
 void onBusError(int, siginfo_t* information, void*) {
     const int formerError = errno;
     const auto address = reinterpret_cast<std::uintptr_t>(information->si_addr);
-    void* page = reinterpret_cast<void*>(address / pageBytes * pageBytes);
+    void* page = static_cast<char*>(information->si_addr) - address % pageBytes;
     constexpr int replacing = MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED;
     if (!isMapped(address) || ::mmap(page, pageBytes, PROT_READ | PROT_WRITE, replacing, -1, 0) == MAP_FAILED) {
         ::sigaction(SIGBUS, &formerAction, nullptr);

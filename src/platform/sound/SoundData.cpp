@@ -9,7 +9,7 @@ namespace lyrebrook {
 namespace {
 
 /// Far enough for a slow disk, near enough to cost nothing: 1.8 MB.
-constexpr Frames touchedAhead = 10 * framesPerSecond;
+constexpr Frames touchedAhead = Frames{10} * framesPerSecond;
 constexpr Frames framesPerPage = 4096 / bytesPerFrame;
 
 }  // namespace

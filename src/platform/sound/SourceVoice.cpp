@@ -7,7 +7,7 @@ namespace lyrebrook {
 namespace {
 
 /// An input that stays dead must not keep a song from ending.
-constexpr Frames longestWaitForInput = 2 * framesPerSecond;
+constexpr Frames longestWaitForInput = Frames{2} * framesPerSecond;
 
 }  // namespace
 

@@ -190,7 +190,7 @@ void VirtualCard::record(std::size_t frames) noexcept {
 
 std::span<const float> VirtualCard::recorded(std::size_t frames) const noexcept {
     const auto part = [frames](const Block::Samples& samples) { return std::span{samples}.first(2 * frames); };
-    switch (selected_) {
+    switch (selected_.load()) {
         case RecordingLine::microphone:
             return part(block_->inputs[inputOf(CardLine::microphone)]);
         case RecordingLine::lineIn:
