@@ -146,6 +146,11 @@ TEST(CaptureClock, AnInputOpenedAnewJoinsBehindWhatWasThere) {
     desk.hear(static_cast<double>(before) + 10000);
     EXPECT_EQ(desk.leaps, 10000);
     EXPECT_EQ(desk.clock.lost(), 10000);
+    desk.clock.rest();
+    desk.clock.restart();
+    desk.hear(static_cast<double>(before) + 50000);
+    EXPECT_GT(desk.leaps, 40000);
+    EXPECT_EQ(desk.clock.lost(), 10000) << "nobody wanted what came meanwhile";
 }
 
 }  // namespace

@@ -56,13 +56,13 @@ void CaptureClock::deliver(double lead, SoundCardClient& client) noexcept {
 /// Where an input that was opened anew would overlap with what was there before, its first frames are left out.
 void CaptureClock::findPlace(Frames lead) noexcept {
     const Frames step = at_ + lead - place_;
-    if (everPlaced_) {
-        leap(step);
-    } else {
+    if (resting_ && step > 0) {
         place_ += step;
+    } else {
+        leap(step);
     }
     placed_ = true;
-    everPlaced_ = true;
+    resting_ = false;
 }
 
 void CaptureClock::correct(double lead) noexcept {

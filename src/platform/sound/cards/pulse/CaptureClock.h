@@ -21,6 +21,9 @@ class CaptureClock {
     /// The input begins anew, with frame number 0. What was not delivered is dropped.
     void restart();
 
+    /// Nobody wants the input until it begins anew, so that nothing is lost meanwhile.
+    void rest() { resting_ = true; }
+
     /// The next frames of the input. What is not delivered within a second or so is lost.
     void take(std::span<const StereoFrame> frames) noexcept;
 
@@ -54,7 +57,7 @@ class CaptureClock {
     Frames place_ = 0;
     Frames lost_ = 0;
     bool placed_ = false;
-    bool everPlaced_ = false;
+    bool resting_ = true;
     bool correcting_ = false;
 };
 

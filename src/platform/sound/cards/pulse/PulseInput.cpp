@@ -24,7 +24,10 @@ void PulseInput::select(const RecordingSource& source) {
 }
 
 void PulseInput::keepUp(pa_context& server, bool wanted, CardMoment now, SoundCardClient& client) {
-    if (!wanted || source_.kind == RecordingSource::Kind::ownOutput) return close();
+    if (!wanted || source_.kind == RecordingSource::Kind::ownOutput) {
+        clock_.rest();
+        return close();
+    }
     findMonitor(server);
     if (stream_ != nullptr && !stillGood(now)) close();
     if (stream_ == nullptr && !target().empty() && now - tried_ > pauseBetweenAttempts) open(server, now);

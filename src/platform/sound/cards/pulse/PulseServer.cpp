@@ -32,8 +32,9 @@ bool PulseServer::keepUp(CardMoment now) {
     return false;
 }
 
-bool PulseServer::takeDeviceChange() {
-    return std::exchange(devicesChanged_, false);
+void PulseServer::close() {
+    context_.reset();
+    outputs_ = -1;
 }
 
 void PulseServer::connect(CardMoment now) {
@@ -46,11 +47,11 @@ void PulseServer::connect(CardMoment now) {
     pa_context_set_subscribe_callback(
         context_.get(),
         [](pa_context*, pa_subscription_event_type_t, std::uint32_t, void* self) {
-            static_cast<PulseServer*>(self)->devicesChanged_ = true;
             static_cast<PulseServer*>(self)->countOutputs();
         },
         this);
-    if (pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0) failed_ = true;
+    // A server that starts by itself does so when it is connected to; waiting for one to be started could take long.
+    if (pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) failed_ = true;
 }
 
 void PulseServer::contextChanged() {

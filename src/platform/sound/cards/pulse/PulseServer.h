@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "platform/sound/cards/pulse/CardTime.h"
 #include "platform/sound/cards/pulse/PulseHandles.h"
@@ -21,7 +20,7 @@ class PulseServer {
     bool keepUp(CardMoment now);
 
     /// Takes the connection down.
-    void close() { context_.reset(); }
+    void close();
 
     /// The connection is there, and its outputs are known.
     bool ready() const { return outputs_ >= 0; }
@@ -34,9 +33,6 @@ class PulseServer {
     /// Outputs that can be heard.
     std::int32_t outputs() const { return outputs_ < 0 ? 0 : outputs_; }
 
-    /// Devices came, went or changed since the last call.
-    bool takeDeviceChange();
-
   private:
     void connect(CardMoment now);
     void contextChanged();
@@ -47,7 +43,6 @@ class PulseServer {
     PulseHandle<pa_context> context_;
     CardMoment begun_;
     bool failed_ = false;
-    bool devicesChanged_ = false;
     std::int32_t counted_ = 0;
     std::int32_t outputs_ = -1;
 };
