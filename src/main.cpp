@@ -1,11 +1,10 @@
 #include <QApplication>
-#include <memory>
 
 #include "platform/forms/FormInstance.h"
 #include "platform/forms/QtDesktop.h"
 #include "platform/forms/Theme.h"
 #include "platform/sound/SoundSystem.h"
-#include "platform/sound/cards/VirtualCard.h"
+#include "platform/sound/cards/chooseCard.h"
 #include "shell/FrmIntro.h"
 #include "shell/modConfig.h"
 
@@ -25,7 +24,7 @@ int main(int argc, char* argv[]) {
     QtDesktop realDesktop;
     realDesktop.setBeforeEnd([] { SoundSystem::remove(); });
     setDesktop(&realDesktop);
-    SoundSystem::install(std::make_unique<VirtualCard>(VirtualCard::Clock::realTime));
+    SoundSystem::install(chooseCard());
     subMain();
     return QApplication::exec();
 }
