@@ -18,9 +18,13 @@ constexpr double leapFrom = framesPerSecond * 0.0025;
 CaptureClock::CaptureClock() : ring_(ringFrames) {}
 
 void CaptureClock::restart() {
-    glide_.stop();
+    interrupt();
     end_ = 0;
     at_ = 0;
+}
+
+void CaptureClock::interrupt() {
+    glide_.stop();
     placed_ = false;
     correcting_ = false;
 }

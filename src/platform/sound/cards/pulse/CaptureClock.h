@@ -24,6 +24,9 @@ class CaptureClock {
     /// Nobody wants the input until it begins anew, so that nothing is lost meanwhile.
     void rest() { resting_ = true; }
 
+    /// The input stood still; the place of what comes now has to be found anew.
+    void interrupt();
+
     /// The next frames of the input. What is not delivered within a second or so is lost.
     void take(std::span<const StereoFrame> frames) noexcept;
 

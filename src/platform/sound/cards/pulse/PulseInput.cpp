@@ -14,6 +14,7 @@ constexpr std::chrono::milliseconds fragment{10};
 /// Some devices take their time to wake up.
 constexpr std::chrono::seconds longestWait{3};
 constexpr std::chrono::milliseconds arrivingWithin{500};
+constexpr std::chrono::milliseconds longestPause{250};
 
 }  // namespace
 
@@ -61,8 +62,7 @@ void PulseInput::open(pa_context& server, CardMoment now) {
     tried_ = now;
     opened_ = target();
     clock_.restart();
-    lead_.restart();
-    asked_ = 0;
+    measureAnew();
     const pa_sample_spec format = streamFormat();
     stream_.reset(pa_stream_new(&server, "Recording", &format, nullptr));
     if (stream_ == nullptr) return;
@@ -86,8 +86,17 @@ bool PulseInput::stillGood(CardMoment now) const {
     return state != PA_STREAM_READY || opened_ == pa_stream_get_device_name(stream_.get());
 }
 
+/// A server or a device that stood still has lost an unknown length of sound.
+void PulseInput::measureAnew() {
+    clock_.interrupt();
+    lead_.restart();
+    asked_ = 0;
+}
+
 void PulseInput::takeFrames() {
-    arrived_ = CardClock::now();
+    const CardMoment now = CardClock::now();
+    if (now - arrived_ > longestPause) measureAnew();
+    arrived_ = now;
     const void* sound = nullptr;
     std::size_t bytes = 0;
     while (pa_stream_peek(stream_.get(), &sound, &bytes) >= 0 && bytes > 0) {

@@ -36,6 +36,7 @@ class PulseInput {
     const std::string& target() const { return source_.kind == RecordingSource::Kind::named ? source_.name : monitor_; }
     void open(pa_context& server, CardMoment now);
     bool stillGood(CardMoment now) const;
+    void measureAnew();
     void takeFrames();
     void askTiming(CardMoment now);
     void takeTiming();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 
 namespace lyrebrook {
 namespace {
@@ -36,7 +37,7 @@ void PulseOutput::begin(CardMoment now) {
 void PulseOutput::keepUp(pa_context* server, CardMoment now) {
     if (stream_ != nullptr) watch();
     const bool silent = streaming_ && now - requested_ > longestSilenceOfServer;
-    if (silent) streaming_ = false;
+    if (silent) standStill();
     if (stream_ == nullptr && server != nullptr && now - tried_ > pauseBetweenAttempts) open(*server, now);
     if (!streaming_) goOnByTheClock(now);
 }
@@ -47,12 +48,15 @@ void PulseOutput::close() {
 }
 
 std::uint32_t PulseOutput::sink() const {
-    return streaming_ ? pa_stream_get_device_index(stream_.get()) : PA_INVALID_INDEX;
+    const bool there = stream_ != nullptr && pa_stream_get_state(stream_.get()) == PA_STREAM_READY;
+    return there ? pa_stream_get_device_index(stream_.get()) : PA_INVALID_INDEX;
 }
 
 void PulseOutput::open(pa_context& server, CardMoment now) {
     tried_ = now;
     written_ = 0;
+    gapDue_ = 0;
+    leftBehind_ = false;
     const pa_sample_spec format = streamFormat();
     stream_.reset(pa_stream_new(&server, "Song", &format, nullptr));
     if (stream_ == nullptr) return;
@@ -70,14 +74,15 @@ void PulseOutput::open(pa_context& server, CardMoment now) {
 }
 
 void PulseOutput::watch() {
-    if (!PA_STREAM_IS_GOOD(pa_stream_get_state(stream_.get()))) close();
+    if (leftBehind_ || !PA_STREAM_IS_GOOD(pa_stream_get_state(stream_.get()))) close();
 }
 
 void PulseOutput::takeRequest(std::size_t bytes) {
     const CardMoment now = CardClock::now();
     std::size_t frames = bytes / bytesPerFrame;
-    const Frames skipped = streaming_ ? 0 : startStream(frames, now);
-    frames -= static_cast<std::size_t>(skipped);
+    if (!streaming_) frames = startStream(frames, now);
+    const Frames skipped = std::exchange(gapDue_, 0);
+    base_ -= skipped;
     requested_ = now;
     for (Frames gap = skipped; frames > 0; gap = 0) {
         const std::size_t written = write(frames, gap);
@@ -98,17 +103,24 @@ std::size_t PulseOutput::write(std::size_t frames, Frames gap) {
     return frames;
 }
 
-/// A server that stood still for a while asks for all that it missed. The timeline went on meanwhile, so that much is
-/// skipped; tells how many frames.
-Frames PulseOutput::startStream(std::size_t requested, CardMoment now) {
-    const Frames buffer = wholeFrames(bufferBytes(length_));
-    const Frames skipped = std::max<Frames>(static_cast<Frames>(requested) - buffer, 0);
+/// A server that stood still for a while may ask for all that it missed. The timeline went on meanwhile, so that much
+/// is skipped; tells how many frames are still wanted.
+std::size_t PulseOutput::startStream(std::size_t requested, CardMoment now) {
+    const auto wanted = std::min(requested, static_cast<std::size_t>(bufferFrames()));
     streaming_ = true;
-    base_ = mixer_.mixed() - written_ - skipped;
+    gapDue_ += static_cast<Frames>(requested - wanted);
+    base_ = mixer_.mixed() - written_;
     started_ = now;
     sounding_.restart(now, sounding_.at(now));
     told_ = {};
-    return skipped;
+    return wanted;
+}
+
+/// A stream that has played and then stood still may stay silent, or play on too late for ever; a new one doesn't. One
+/// that has hardly begun is waited for, because some sinks have seconds of silence to play first.
+void PulseOutput::standStill() {
+    streaming_ = false;
+    if (written_ > framesPerSecond / 2) leftBehind_ = true;
 }
 
 void PulseOutput::goOnByTheClock(CardMoment now) {
@@ -121,7 +133,8 @@ void PulseOutput::askTiming() {
 }
 
 void PulseOutput::takeTiming() {
-    const auto sight = streaming_ ? playbackSight(*stream_) : std::nullopt;
+    if (!streaming_) return;
+    const auto sight = playbackSight(*stream_);
     if (!sight) return;
     told_ = {sight->at, static_cast<double>(base_) + sight->position};
     sounding_.see(told_.at, told_.position);

@@ -51,7 +51,9 @@ class PulseOutput {
     void watch();
     void takeRequest(std::size_t bytes);
     std::size_t write(std::size_t frames, Frames gap);
-    Frames startStream(std::size_t requested, CardMoment now);
+    void standStill();
+    std::size_t startStream(std::size_t requested, CardMoment now);
+    Frames bufferFrames() const { return wholeFrames(bufferBytes(length_)); }
     void goOnByTheClock(CardMoment now);
     void takeTiming();
     void takeUnderrun();
@@ -61,7 +63,9 @@ class PulseOutput {
     StreamSight told_;
     StreamPosition sounding_;
     bool streaming_ = false;
+    bool leftBehind_ = false;
     Frames written_ = 0;  // frames of the stream, those skipped too
+    Frames gapDue_ = 0;   // to be skipped before the next frame
     Frames base_ = 0;     // place on the timeline of the stream's first frame
     CardMoment tried_;
     CardMoment started_;
