@@ -9,6 +9,7 @@ namespace lyrebrook {
 namespace {
 
 constexpr int midiChannels = 16;
+constexpr int drumChannel = 9;
 
 enum Controller : int { sustainPedal = 64, sostenutoPedal = 66 };
 
@@ -28,6 +29,8 @@ Synthesizer::Synthesizer(const std::filesystem::path& soundFont)
         throw RuntimeError(RuntimeErrorNumber::deviceInputOutput,
                            "The SoundFont \"" + soundFont.string() + "\" can't be read.");
     }
+    // Drums sound at the pitch at which they were sampled, where a straight line between samples is as good.
+    fluid_synth_set_interp_method(synth_.get(), drumChannel, FLUID_INTERP_LINEAR);
 }
 
 void Synthesizer::play(const MidiSong& song, const MidiEvent& event) noexcept {
