@@ -5,7 +5,6 @@
 #include <atomic>
 #include <cmath>
 #include <cstdio>
-#include <optional>
 #include <thread>
 
 #include "integration/support/ServerDesk.h"
@@ -65,8 +64,6 @@ double lateness(ServerDesk& desk, Start start) {
 double medianLateness(ServerDesk& desk, Start start) {
     std::array<double, 5> runs{};
     for (double& run : runs) run = lateness(desk, start);
-    for (double& run : runs) std::printf("   %.2f", run);
-    std::printf("\n");
     std::ranges::sort(runs);
     return runs[2];
 }
