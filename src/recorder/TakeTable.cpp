@@ -5,10 +5,13 @@
 namespace lyrebrook {
 
 void TakeTable::note(Stretch stretch) {
-    const auto place = static_cast<std::size_t>(takeCount);
-    if (place >= stretches_.size())
-        throw RuntimeError(RuntimeErrorNumber::subscriptOutOfRange, "Subscript out of range");
-    stretches_[place] = stretch;
+    stretches_[place(takeCount)] = stretch;
+}
+
+std::size_t TakeTable::place(std::int32_t take) {
+    const auto place = static_cast<std::size_t>(take);
+    if (place < std::tuple_size_v<decltype(stretches_)>) return place;
+    throw RuntimeError(RuntimeErrorNumber::subscriptOutOfRange, "Subscript out of range");
 }
 
 }  // namespace lyrebrook

@@ -6,7 +6,7 @@
 namespace lyrebrook {
 
 /// What was recorded since the recorder's screen was opened, take by take from 1 on, in bytes of the song. Made for 99
-/// takes; noting the hundredth is a RuntimeError `subscriptOutOfRange`.
+/// takes; the hundredth is a RuntimeError `subscriptOutOfRange`.
 class TakeTable {
   public:
     struct Stretch {
@@ -18,9 +18,11 @@ class TakeTable {
 
     /// The newest take as far as it has come.
     void note(Stretch stretch);
-    const Stretch& operator[](std::int32_t take) const { return stretches_.at(static_cast<std::size_t>(take)); }
+    const Stretch& operator[](std::int32_t take) const { return stretches_[place(take)]; }
 
   private:
+    static std::size_t place(std::int32_t take);
+
     std::array<Stretch, 100> stretches_{};
 };
 
