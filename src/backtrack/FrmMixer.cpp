@@ -11,6 +11,7 @@
 #include "platform/forms/Desktop.h"
 #include "platform/sound/SoundSystem.h"
 #include "platform/sound/SoundTransaction.h"
+#include "recorder/FrmComposer.h"
 #include "recorder/levelBarPictures.h"
 #include "recorder/soundBuffers.h"
 #include "recorder/soundDevices.h"
@@ -58,6 +59,7 @@ void FrmMixer::Form_Load() {
 }
 
 void FrmMixer::Form_Activate() {
+    frmComposer.Unload();  // the two never hold the sound objects together
     setMousePointer(MousePointer::hourglass);
     DoEvents();
     if (!music_.dx) return;  // unloaded by what was pending

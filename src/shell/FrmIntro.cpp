@@ -13,6 +13,7 @@
 #include "platform/help/HelpViewer.h"
 #include "platform/winmm/waveOut.h"
 #include "projects/FrmSongConfig.h"
+#include "recorder/FrmComposer.h"
 #include "shell/FrmAbout.h"
 #include "shell/banner.h"
 #include "shell/modConfig.h"
@@ -198,6 +199,7 @@ void FrmIntro::mnuStep4_Click() {
     if (!checkFileExists()) {
         return turnBack(QStringLiteral("Please record the backtrack for your song before you go to step 4!"), frmMixer);
     }
+    frmComposer.Show();
 }
 
 void FrmIntro::picStatusN_Click(int index) {

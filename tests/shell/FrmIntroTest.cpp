@@ -5,6 +5,7 @@
 #include "backtrack/FrmMixer.h"
 #include "backtrack/FrmSelect.h"
 #include "projects/FrmSongConfig.h"
+#include "recorder/FrmComposer.h"
 #include "shell/FrmAbout.h"
 #include "shell/modConfig.h"
 #include "support/Studio.h"
@@ -43,6 +44,14 @@ TEST_F(MainWindow, TurnsBackToTheStepThatIsMissing) {
     EXPECT_EQ(desk().takeBoxes().front(),
               Box{QStringLiteral("Please record the backtrack for your song before you go to step 4!")});
     EXPECT_TRUE(frmMixer.isLoaded());
+}
+
+TEST_F(MainWindow, OpensTheRecorderForAnyFirstWaveThatExists) {
+    gSongName = QStringLiteral("My Song");
+    giveWave(QStringLiteral("My Song_1.wav"), ramp(44100));
+    frmIntro->lblStep4.Click.fire();
+    EXPECT_TRUE(frmComposer.isLoaded());
+    EXPECT_FALSE(frmMixer.isLoaded());
 }
 
 TEST_F(MainWindow, LightsAStepWhenItsScreenCloses) {

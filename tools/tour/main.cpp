@@ -24,6 +24,7 @@ void walk(const QString& folder) {
     createSong(tour);
     chooseBacktrack(tour);
     recordBacktrack(tour);
+    singVoices(tour);
     tour.require(!complained, QStringLiteral("no complaint on the way"));
     tour.say(QStringLiteral("tour: ok"));
 }

@@ -9,5 +9,6 @@ void openProgram(Tour& tour);
 void createSong(Tour& tour);
 void chooseBacktrack(Tour& tour);
 void recordBacktrack(Tour& tour);
+void singVoices(Tour& tour);
 
 }  // namespace lyrebrook
