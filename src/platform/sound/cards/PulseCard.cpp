@@ -42,7 +42,7 @@ std::int32_t PulseCard::outputCount() const {
 }
 
 void PulseCard::selectSource(const RecordingSource& source) {
-    share_->selections.enqueue(source);
+    share_->select(source);
     loop_->wake();
 }
 

@@ -85,10 +85,9 @@ void CardLoop::keepUp(CardMoment now) {
 }
 
 void CardLoop::takeOrders(CardMoment now) {
-    RecordingSource chosen;
-    while (share_.selections.try_dequeue(chosen)) {
-        kind_ = chosen.kind;
-        input_.select(chosen);
+    if (const auto chosen = share_.takeSelection()) {
+        kind_ = chosen->kind;
+        input_.select(*chosen);
     }
     const bool wanted = share_.inputWanted.load();
     if (wanted && !wanted_) wantedSince_ = now;
