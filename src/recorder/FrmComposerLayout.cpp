@@ -50,7 +50,7 @@ ControlArray<CommandButton>::Maker rowButtons(QWidget* rows, const char* caption
         auto button = std::make_unique<CommandButton>(rows, QString::fromLatin1(caption));
         button->setLook(Look::compact);
         button->setToolTipText(QString::fromLatin1(toolTip));
-        button->Move(0, 0, 315, TrackView::barHeight);
+        button->Move(0, 0, 290, TrackView::barHeight);
         return button;
     };
 }
@@ -65,6 +65,7 @@ void makeLabel(TextBox& box) {
     box.setAlignment(Qt::AlignCenter);
     box.widget()->setFocusPolicy(Qt::NoFocus);
     box.widget()->setFixedWidth(78);
+    box.widget()->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; }"));
 }
 
 /// Makes room in strips whose pitch is settled; the theme's sliders are wider.
@@ -72,12 +73,12 @@ void makeSlim(Slider& slider) {
     slider.widget()->setStyleSheet(QStringLiteral("QSlider { min-height: 22px; min-width: 0; }"));
 }
 
-/// A small text under a slider, or in a row's head.
-void makeSmall(Label& label, Twips width) {
-    QFont font = label.widget()->font();
-    font.setPointSizeF(8.5);
-    label.widget()->setFont(font);
-    label.setWidth(width);
+/// A row of controls in a frame, with no more air around it than the frame gives.
+QHBoxLayout* rowIn(Frame& frame) {
+    auto* row = new QHBoxLayout(frame.widget());
+    row->setContentsMargins(2, 0, 2, 0);
+    row->setSpacing(6);
+    return row;
 }
 
 QString decibels(double value) {
@@ -183,17 +184,21 @@ QBoxLayout* FrmComposer::layOutTransport() {
     cmdPlay.setPicture(playIcon());
     cbRecord.widget()->setFocusPolicy(Qt::NoFocus);  // shows the state, and is not for the user to set
     cbRecord.widget()->setAttribute(Qt::WA_TransparentForMouseEvents);
-    auto* transport = new QHBoxLayout(Frame3.widget());
-    for (CommandButton* button : {&cmdRecord, &cmdHome, &cmdStop, &cmdPlay}) transport->addWidget(*button);
+    auto* transport = rowIn(Frame3);
+    for (CommandButton* button : {&cmdRecord, &cmdHome, &cmdStop, &cmdPlay}) {
+        button->widget()->setFixedSize(50, 38);
+        transport->addWidget(*button);
+    }
     transport->addWidget(cbRecord);
+    cmdPlay.SetFocus();
 
     btnRepeat.setFontBold(true);
-    auto* punch = new QHBoxLayout(Frame7.widget());
+    auto* punch = rowIn(Frame7);
     for (CommandButton* button : {&btnIn, &btnOUT, &btnRepeat}) punch->addWidget(*button);
 
     lblHMS.setLook(Look::readout);
     lblHMS.setAlignment(Qt::AlignCenter);
-    auto* duration = new QHBoxLayout(Frame4.widget());
+    auto* duration = rowIn(Frame4);
     duration->addWidget(lblHMS);
 
     lblRecording.setLook(Look::status);
@@ -203,15 +208,16 @@ QBoxLayout* FrmComposer::layOutTransport() {
     QSizePolicy keepsItsPlace = lblRecording.widget()->sizePolicy();
     keepsItsPlace.setRetainSizeWhenHidden(true);
     lblRecording.widget()->setSizePolicy(keepsItsPlace);
-    lblRecording.widget()->setFixedWidth(190);
+    lblRecording.widget()->setFixedSize(178, 38);
 
     auto* row = new QHBoxLayout;
-    row->setContentsMargins(margin, 8, margin, 8);
+    constexpr int air = 6;
+    row->setContentsMargins(margin, air, margin, air);
     row->setSpacing(12);
     for (Frame* frame : {&Frame3, &Frame7, &Frame4}) row->addWidget(*frame);
     row->addStretch(1);
     row->addWidget(lblRecording);
-    row->addStrut(toPixels(viewTop));
+    row->addStrut(toPixels(viewTop) - 2 * air);
     return row;
 }
 
@@ -220,7 +226,7 @@ QBoxLayout* FrmComposer::layOutMiddle() {
     layOutLevelBars(Frame5, leftVU, rightVU);
     leftVU.setVisible(false);
     rightVU.setVisible(false);
-    auto* enable = new QHBoxLayout(Frame6.widget());
+    auto* enable = rowIn(Frame6);
     enable->addWidget(cbEnableVU, 0, Qt::AlignCenter);
     auto* meters = new QVBoxLayout;
     meters->setSpacing(6);
@@ -230,6 +236,7 @@ QBoxLayout* FrmComposer::layOutMiddle() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, 0, margin, 6);
     row->addSpacing(toPixels(viewLeft + viewWidth + scrollBarThickness) + 12);
+    Frame5.widget()->layout()->setContentsMargins(2, 0, 2, 0);
     row->addLayout(meters);
     row->addStrut(toPixels(viewHeight + zoomHeight));
     return row;
@@ -237,11 +244,13 @@ QBoxLayout* FrmComposer::layOutMiddle() {
 
 QBoxLayout* FrmComposer::layOutMixer() {
     Frame1.setToolTipText(QStringLiteral("The channel sliders set the PLAYBACK volumes for each individual track"));
-    Frame1.widget()->setFixedSize(toPixels(5400), toPixels(2850));
+    Frame1.widget()->setFixedWidth(toPixels(5400));
+    Frame1.widget()->setMinimumHeight(toPixels(2850));
+    Frame2.widget()->setMinimumWidth(136);
     checkChannelMix.Move(3 * 1300 + 720, 1300, 360, 360);
-    auto* master = new QHBoxLayout(Frame2.widget());
+    auto* master = rowIn(Frame2);
     master->addWidget(sMaster, 0, Qt::AlignHCenter);
-    auto* lyrics = new QHBoxLayout(Frame9.widget());
+    auto* lyrics = rowIn(Frame9);
     lyrics->addWidget(chkLyrics);
 
     auto* beside = new QHBoxLayout;
@@ -282,6 +291,7 @@ QBoxLayout* FrmComposer::layOutBottom() {
     row->setContentsMargins(margin, 0, margin, 0);
     row->addWidget(Command1);
     row->addStretch(1);
+    row->setSpacing(8);
     row->addWidget(cmdHelp);
     row->addWidget(btnEnd);
     return row;
@@ -297,7 +307,6 @@ void FrmComposer::layOutTrackView() {
     sldHScale.setWidth(1440);
     sldHScale.setHeight(zoomHeight);
     Label1.Move(viewLeft + TrackView::headsWidth, viewTop + viewHeight + scrollBarThickness, 700, 270);
-    makeSmall(Label1, 700);
     lnCursor.setVisible(false);
     txtLoading.Move(viewLeft + 3600, viewTop + 420, 2700, 480);
     txtLoading.setLocked(true);
@@ -305,11 +314,18 @@ void FrmComposer::layOutTrackView() {
     txtLoading.widget()->setFocusPolicy(Qt::NoFocus);
     txtLoading.setVisible(false);
     txtLoading.ZOrder();
-    lblTrackNum.forEach([](int, Label& name) { makeSmall(name, 690); });
-    for (ControlArray<Label>* array : {&lblVol, &lblRev}) {
-        array->forEach([](int, Label& label) { makeSmall(label, 480); });
-    }
-    lblTrackNum.forEach([](int, Label& name) { name.setHeight(TrackView::barHeight); });
+    lblTrackNum.forEach([](int track, Label& name) {
+        name.Move(0, 0, 690, TrackView::barHeight);
+        if (track == musicTrack || track == mixTrack) name.setForeColor(lightRed);
+        QFont small = name.widget()->font();
+        small.setPointSizeF(8.5);
+        name.widget()->setFont(small);
+    });
+    lblVol.forEach([](int, Label& label) { label.setWidth(450); });
+    lblRev.forEach([](int, Label& label) {
+        label.setWidth(450);
+        label.setAlignment(Qt::AlignCenter);
+    });
     lblChannel.forEach([](int, Label& head) { head.setWidth(900); });
     sLevel.forEach([](int, Slider& slider) { slider.Move(0, 0, 510, 1365); });
     sReverb.forEach([](int, Slider& slider) { slider.Move(0, 0, 510, 1035); });
@@ -334,6 +350,7 @@ void FrmComposer::nameControls() {
     sldOffset.setAccessibleName(QStringLiteral("Move Voice"));
     cmdHelpVolume.setToolTipText(QStringLiteral("Help on playback and recording volumes"));
     checkChannelMix.setAccessibleName(QStringLiteral("Listen to the final mix"));
+    checkChannelMix.setToolTipText(QStringLiteral("Listen to the final mix"));
     HScrollB.setAccessibleName(QStringLiteral("Time line"));
     VScrollA.setAccessibleName(QStringLiteral("Track rows"));
     imgSliderB.setAccessibleName(QStringLiteral("Song position"));

@@ -70,7 +70,6 @@ void FrmComposer::buildRow(int track) {
     Label& name = lblTrackNum.load(track);
     name.Move(50, top);
     name.setCaption(rowCaption(track));
-    if (track == musicTrack || track == mixTrack) name.setForeColor(lightRed);
     name.setVisible(true);
 }
 
