@@ -48,7 +48,7 @@ const Groove verse{.kick = "8.....5.7.......",
                    .crash = rest,
                    .bass = "r.....r.f...r.f.",
                    .picks = "0.2.1.3.0.2.1.3.",
-                   .keys = "4.....3.....3...",
+                   .keys = rest,
                    .padLoudness = 44};
 
 const Groove verseFill{.kick = "8.....5.7.......",
@@ -60,7 +60,7 @@ const Groove verseFill{.kick = "8.....5.7.......",
                        .crash = rest,
                        .bass = "r.....r.f.r.f.r.",
                        .picks = "0.2.1.3.0.2.1.3.",
-                       .keys = "4.....3.....4...",
+                       .keys = "............4...",
                        .padLoudness = 50};
 
 const Groove chorus{.kick = "8.....6.8..5....",
@@ -96,7 +96,7 @@ const Groove slowing{.kick = "7...............",
                      .crash = rest,
                      .bass = "r.......f.......",
                      .picks = "0.2.1.3.2.1.3.2.",
-                     .keys = "4.......3.......",
+                     .keys = rest,
                      .padLoudness = 50};
 
 const Groove lastChord{.kick = "6...............",
