@@ -49,7 +49,7 @@ while IFS='|' read -r folder others libraries; do
 done < <(rules)
 
 # Rules of the product know no widget, no form and no library of sound; what the build names as screens does.
-screens=$(sed -nE 's/^target_sources\(screens PRIVATE (.*)\)$/\1/p' src/*/CMakeLists.txt | tr ' ' '\n' | sed 's/\.cpp$//')
+screens=$(sed -n '/^target_sources(screens/,/)/p' src/*/CMakeLists.txt | grep -oE '[A-Za-z]+\.cpp' | sed 's/\.cpp$//')
 while IFS=: read -r file header; do
     name=$(basename "${file%.*}")
     grep -qx "$name" <<<"$screens" && continue
