@@ -160,6 +160,7 @@ class FrmComposer final : public Form {
     void extendRecordedWave();
     void SaveRecording();
     Saved saveTake();
+    void takeOver(std::unique_ptr<DirectSoundSecondaryBuffer8> merged);
     void cmdDeleteTrack_Click(int track);
 
     void StartVUCapture();

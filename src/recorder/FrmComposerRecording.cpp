@@ -119,9 +119,18 @@ FrmComposer::Saved FrmComposer::saveTake() {
         return Saved::no;
     }
     const bool saved = saveSound(*merged, trackFilePath(armed()));
-    if (saved) tracks_.replaceBuffer(armed(), std::move(merged));
+    if (saved) takeOver(std::move(merged));
     setPositionToCursor();
     return saved ? Saved::yes : Saved::no;
+}
+
+/// The new buffer is dressed like the old one before it can sound.
+void FrmComposer::takeOver(std::unique_ptr<DirectSoundSecondaryBuffer8> merged) {
+    tracks_.replaceBuffer(armed(), std::move(merged));
+    playback_.setTrackFx(armed());
+    TrackMix all = mix();
+    all.takenTrack = TrackMix::none;
+    playback_.applyTrackMix(all);
 }
 
 void FrmComposer::cmdDeleteTrack_Click(int track) {

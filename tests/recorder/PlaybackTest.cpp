@@ -93,14 +93,6 @@ TEST_F(PlayedSong, LeavesTheTakenTrackSilentAndItsLevelsAlone) {
     EXPECT_NEAR(heard[499].left, 500, 5) << "only the music was turned down";
 }
 
-TEST_F(PlayedSong, StartsByThePlaceItWasLastSentTo) {
-    song({songBytes, songBytes / 2, 0, 0});
-    moveTo(0.6);
-    tracks.trackBuffer(2).SetCurrentPosition(0);
-    playback.startTracks(mix, nullptr);
-    EXPECT_THAT(sounding(), ElementsAre(1));
-}
-
 TEST_F(PlayedSong, OffsetSendsTheVoicesAheadAndHoldsTheMusicBack) {
     song({songBytes - 100'000, songBytes, songBytes, songBytes});
     mix.offset = 20'000;

@@ -100,13 +100,17 @@ TEST_F(Recording, PunchedInWhileTheSongRunsLiesOnTheFrameThatWasPlayed) {
 
 TEST_F(Recording, AClickOnTheTimeLineEndsTheTakeAndMoves) {
     open();
+    frmComposer->sLevel[2].setValue(3000);
     clickRecord();
-    sings(tone(2 * second, 100));
-    moveTo(50);
-    EXPECT_EQ(track(2), tone(2 * second, 100));
+    sings(tone(2 * second, 20000));
+    moveTo(1);
+    EXPECT_EQ(track(2), tone(2 * second, 20000));
     EXPECT_FALSE(recording());
     EXPECT_TRUE(frmComposer->playing());
-    EXPECT_EQ(time(), QStringLiteral("00:50.00"));
+    EXPECT_EQ(time(), QStringLiteral("00:01.00"));
+    frmComposer->sReverb[2].Scroll.fire();
+    EXPECT_LT(listen(10ms).front().left, 700)
+        << "the new take is as quiet as its slider wants it, from its first frame";
 }
 
 TEST_F(Recording, RepeatEndsATakeAndKeepsIt) {
@@ -148,7 +152,7 @@ TEST_F(Recording, ShowsTakesInRedOverTheBarOfTheirTrack) {
 }
 
 TEST_F(Recording, TheHundredthTakeHasNoRoom) {
-    open();
+    open(10);
     for (int take = 1; take <= 99; ++take) {
         clickRecord();
         crank(60ms);

@@ -23,11 +23,6 @@ TEST(RunningSong, EndsWhenTheMusicsCursorReads0Again) {
     EXPECT_FALSE(transport.playing) << "no grace away from the start";
 }
 
-TEST(RunningSong, EndsATakeBehind98Percent) {
-    EXPECT_FALSE(endsTake(0.9799F));
-    EXPECT_TRUE(endsTake(0.9801F));
-}
-
 TEST(RunningSong, TellsItsTime) {
     EXPECT_EQ(timeText(61 * 176400 + 88200, 300 * 176400), QStringLiteral("01:01.50"));
     EXPECT_EQ(timeText(0, 0), QStringLiteral("00:00.00"));
