@@ -28,6 +28,7 @@ TEST_F(Recording, ASessionFromTheFirstTakeToTheFinalMix) {
     EXPECT_THAT(part(heard, second, heard.size()), Each(StereoFrame{1, -1})) << "the armed track is silent";
     clickStop();
     ASSERT_EQ(track(2), tone(20 * second, 100));
+    frmComposer->sReverb[2].Scroll.fire();  // the new buffer has one to be set
 
     moveTo(10);
     clickRecord();
@@ -108,7 +109,6 @@ TEST_F(Recording, AClickOnTheTimeLineEndsTheTakeAndMoves) {
     EXPECT_FALSE(recording());
     EXPECT_TRUE(frmComposer->playing());
     EXPECT_EQ(time(), QStringLiteral("00:01.00"));
-    frmComposer->sReverb[2].Scroll.fire();
     EXPECT_LT(listen(10ms).front().left, 700)
         << "the new take is as quiet as its slider wants it, from its first frame";
 }
@@ -179,13 +179,19 @@ TEST_F(Recording, ArmsVoicesAndTheMixButNothingDuringATake) {
     EXPECT_EQ(frmComposer->cmdRecEnable[3].BackColor(), red);
 }
 
-TEST_F(Recording, WithoutSoundFailsAndLeavesNothing) {
+TEST_F(Recording, WithoutSoundFailsAndLeavesTheTrackAsItWas) {
+    giveTrack(2, tone(songSeconds * second, 100));
     open();
+    const QByteArray old = fileOf(2);
+    clickPlay();
+    crank(1s);
     clickRecord();
     desk().willAnswer(vbOK);
-    clickStop();
+    clickRecord();
     expectBoxes(Box{QStringLiteral("Recording failed. Possibly, out of buffer space."), vbCritical});
-    EXPECT_FALSE(QFile::exists(trackFilePath(2)) || recording());
+    EXPECT_TRUE(fileOf(2) == old);
+    EXPECT_FALSE(recording());
+    EXPECT_NEAR(listen(1s).back().left, 101, 8) << "the track joins the song again";
 }
 
 TEST_F(Recording, DeletesOnlyWhileStandingAndTellsWhatIsntThere) {

@@ -139,7 +139,11 @@ TEST_F(TransportScreen, MetersShowTheInputAndUntickingDropsTheirBuffer) {
     clickStop();
     EXPECT_EQ(frmComposer->cbEnableVU.Value(), 1);
     EXPECT_EQ(setting("EnableVU"), QStringLiteral("1"));
-    EXPECT_TRUE(card().inputOpen());
+    clickRecord();
+    crank(9s);
+    clickStop();
+    sings(tone(second, 8000));
+    EXPECT_GT(frmComposer->leftVU.Width(), 1400) << "each stop gives the meter its buffer back";
 }
 
 TEST_F(TransportScreen, LetGoOfTheOffsetSlidesTheVoicesAndPlays) {
