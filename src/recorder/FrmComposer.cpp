@@ -14,6 +14,9 @@
 #include "shell/FrmIntro.h"
 #include "shell/modConfig.h"
 
+#include <algorithm>
+#include <array>
+
 namespace lyrebrook {
 namespace {
 

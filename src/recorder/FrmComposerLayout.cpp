@@ -1,5 +1,4 @@
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -200,6 +199,7 @@ QBoxLayout* FrmComposer::layOutTransport() {
     lblHMS.setAlignment(Qt::AlignCenter);
     auto* duration = rowIn(Frame4);
     duration->addWidget(lblHMS);
+    Frame4.widget()->setMinimumWidth(178);
 
     lblRecording.setLook(Look::status);
     lblRecording.setForeColor(red);

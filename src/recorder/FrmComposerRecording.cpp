@@ -1,5 +1,4 @@
 #include "platform/forms/Desktop.h"
-#include "projects/SongFiles.h"
 #include "recorder/FrmComposer.h"
 #include "recorder/recorderMemory.h"
 #include "recorder/soundDevices.h"
