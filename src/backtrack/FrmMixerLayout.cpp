@@ -4,6 +4,7 @@
 
 #include "backtrack/FrmMixer.h"
 #include "recorder/levelBarPictures.h"
+#include "recorder/recordingPlate.h"
 
 namespace lyrebrook {
 namespace {
@@ -91,13 +92,7 @@ void FrmMixer::layOut() {
 
 QBoxLayout* FrmMixer::layOutTransport() {
     cmdPlay.setLook(Look::primary);
-    lblRecording.setLook(Look::status);
-    lblRecording.setForeColor(red);
-    lblRecording.setAlignment(Qt::AlignCenter);
-    lblRecording.setVisible(false);
-    QSizePolicy keepsItsPlace = lblRecording.widget()->sizePolicy();
-    keepsItsPlace.setRetainSizeWhenHidden(true);
-    lblRecording.widget()->setSizePolicy(keepsItsPlace);
+    makeRecordingPlate(lblRecording);
     lblRecording.widget()->setMinimumWidth(190);
 
     auto* row = new QHBoxLayout;

@@ -4,6 +4,7 @@
 
 #include "recorder/FrmComposer.h"
 #include "recorder/levelBarPictures.h"
+#include "recorder/recordingPlate.h"
 #include "recorder/transportIcons.h"
 
 namespace lyrebrook {
@@ -201,13 +202,7 @@ QBoxLayout* FrmComposer::layOutTransport() {
     duration->addWidget(lblHMS);
     Frame4.widget()->setMinimumWidth(178);
 
-    lblRecording.setLook(Look::status);
-    lblRecording.setForeColor(red);
-    lblRecording.setAlignment(Qt::AlignCenter);
-    lblRecording.setVisible(false);
-    QSizePolicy keepsItsPlace = lblRecording.widget()->sizePolicy();
-    keepsItsPlace.setRetainSizeWhenHidden(true);
-    lblRecording.widget()->setSizePolicy(keepsItsPlace);
+    makeRecordingPlate(lblRecording);
     lblRecording.widget()->setFixedSize(178, 38);
 
     auto* row = new QHBoxLayout;

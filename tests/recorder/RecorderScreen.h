@@ -34,7 +34,6 @@ inline Sound tone(std::size_t frames, std::int16_t value) {
 class RecorderScreen : public Studio {
   protected:
     RecorderScreen() {
-        forgetRecorder();
         gSongName = QStringLiteral("My Song");
         writeSongData(songDataPath(gSongName), {.projectName = gSongName, .projectCategory = QStringLiteral("Rock")});
         card().selectRecording(RecordingLine::microphone);
@@ -42,7 +41,6 @@ class RecorderScreen : public Studio {
             heard.insert(heard.end(), frames.begin(), frames.end());
         });
     }
-    ~RecorderScreen() override { forgetRecorder(); }
 
     void giveTrack(int number, std::span<const StereoFrame> frames) {
         giveWave(QStringLiteral("My Song_%1.wav").arg(number), frames);

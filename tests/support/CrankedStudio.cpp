@@ -9,6 +9,7 @@
 #include "platform/files/Settings.h"
 #include "platform/forms/FormInstance.h"
 #include "platform/sound/SoundSystem.h"
+#include "recorder/recorderMemory.h"
 #include "shell/modConfig.h"
 
 namespace lyrebrook {
@@ -27,6 +28,7 @@ void makeDataFolders(const QString& folder) {
 void forgetTheSong() {
     for (QString* text : {&gSongName, &gBacktrackFile, &gSongsFolder, &gTracksFolder, &gSongTemplate}) text->clear();
     gVoiceTrackOffset = 0;
+    forgetRecorder();
     gProjectEditMode = 0;
 }
 

@@ -35,8 +35,8 @@ Slider::Slider(QWidget* container, Orientation orientation, const Range& range)
             Change.fire();
         });
     });
-    view().released = [this] {
-        Click.fire();
+    view().released = [this](bool over) {
+        if (over) Click.fire();
         MouseUp.fire();
     };
 }

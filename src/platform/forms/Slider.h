@@ -49,7 +49,7 @@ class Slider final : public Control {
     Event<> Change;
     Event<> Scroll;
     Event<> Click;    ///< the mouse was let go over the slider, wherever the thumb went
-    Event<> MouseUp;  ///< after `Click`
+    Event<> MouseUp;  ///< the mouse was let go after it was pressed here, wherever it is now; after `Click`
 
   private:
     SliderView& view() const;

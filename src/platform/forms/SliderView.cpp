@@ -58,7 +58,9 @@ QString SliderView::valueText() const {
 
 void SliderView::mouseReleaseEvent(QMouseEvent* event) {
     QSlider::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) fromQt(released);
+    if (event->button() != Qt::LeftButton) return;
+    const bool over = rect().contains(event->position().toPoint());
+    fromQt([this, over] { released(over); });
 }
 
 void SliderView::paintEvent(QPaintEvent* event) {

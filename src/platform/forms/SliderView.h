@@ -14,7 +14,7 @@ class SliderView final : public QSlider {
     QString valueText() const;
 
     std::function<QString(int value)> textOf;
-    std::function<void()> released;
+    std::function<void(bool over)> released;  ///< the mouse was let go, over the slider or elsewhere
 
   protected:
     void mouseReleaseEvent(QMouseEvent* event) override;

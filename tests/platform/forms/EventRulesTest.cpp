@@ -105,6 +105,11 @@ void click(Control& control) {
     QTest::mouseClick(control, Qt::LeftButton);
 }
 
+void letGoOutside(Control& control) {
+    QTest::mousePress(control, Qt::LeftButton);
+    QTest::mouseRelease(control, Qt::LeftButton, {}, QPoint(20, -60));
+}
+
 struct Rule {
     const char* name;
     std::function<void(FrmAll&)> act;
@@ -152,6 +157,7 @@ const Rule rules[] = {
     {"slider, limits pull", [](FrmAll& f) { f.slider.setValue(9), f.slider.setMax(5); }, {"Change"}},
     {"slider, key", [](FrmAll& f) { QTest::keyClick(f.slider, Qt::Key_Right); }, {"Scroll", "Change"}},
     {"slider, groove", [](FrmAll& f) { click(f.slider); }, {"Scroll", "Change", "Click", "MouseUp"}},
+    {"slider, let go outside", [](FrmAll& f) { letGoOutside(f.slider); }, {"Scroll", "Change", "MouseUp"}},
     {"bar, changed", [](FrmAll& f) { f.bar.setValue(5), f.bar.setValue(5); }, {"Change"}},
     {"bar, key", [](FrmAll& f) { QTest::keyClick(f.bar, Qt::Key_Right); }, {"Change"}},
     {"bar, drag",
