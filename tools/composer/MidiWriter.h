@@ -5,13 +5,15 @@
 #include <string_view>
 #include <vector>
 
+namespace lyrebrook {
+
 /// One track of a standard MIDI file being written. Events may come in any order; ticks count from the song's start.
 class MidiTrack {
   public:
     explicit MidiTrack(std::string_view name);
 
     void tempo(std::int32_t tick, double beatsPerMinute);
-    void commonTime();
+    void beatsPerBar(std::uint8_t quarters);
     void majorKey(std::int8_t sharps);
     void program(std::uint8_t channel, std::uint8_t number);
     void controller(std::uint8_t channel, std::uint8_t number, std::uint8_t value);
@@ -39,3 +41,5 @@ class MidiTrack {
 
 /// A file of kind 1: tracks that sound together.
 std::string midiFile(const std::vector<MidiTrack>& tracks, std::int16_t ticksPerQuarter, std::int32_t endTick);
+
+}  // namespace lyrebrook

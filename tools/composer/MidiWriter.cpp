@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+namespace lyrebrook {
 namespace {
 
 std::string bigEndian(std::uint32_t value, int bytes) {
@@ -47,8 +48,8 @@ void MidiTrack::tempo(std::int32_t tick, double beatsPerMinute) {
     meta(tick, setTempo, bigEndian(static_cast<std::uint32_t>(std::lround(60e6 / beatsPerMinute)), 3));
 }
 
-void MidiTrack::commonTime() {
-    meta(0, timeSignature, std::string{4, 2, 24, 8});
+void MidiTrack::beatsPerBar(std::uint8_t quarters) {
+    meta(0, timeSignature, std::string{static_cast<char>(quarters), 2, 24, 8});
 }
 
 void MidiTrack::majorKey(std::int8_t sharps) {
@@ -96,3 +97,5 @@ std::string midiFile(const std::vector<MidiTrack>& tracks, std::int16_t ticksPer
     for (const MidiTrack& each : tracks) file += each.chunk(endTick);
     return file;
 }
+
+}  // namespace lyrebrook

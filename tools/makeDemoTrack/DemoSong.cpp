@@ -1,6 +1,16 @@
-#include "Arrangement.h"
+#include "DemoSong.h"
 
+namespace lyrebrook {
 namespace {
+
+constexpr Band band{
+    .drums = {"Drums", 0, 124, 64, 30, 0},
+    .bass = {"Bass", 33, 114, 64, 8, 0},
+    .picks = {"Guitar", 24, 116, 40, 44, 20},
+    .keys = {"Electric piano", 4, 88, 90, 36, 30},
+    .pad = {"Organ", 19, 78, 64, 60, 0},
+    .lead = {"Vibraphone", 11, 127, 74, 64, 0},
+};
 
 constexpr Chord d{38, {62, 66, 69, 74}};
 constexpr Chord dNinth{38, {62, 64, 69, 74}};
@@ -13,51 +23,25 @@ constexpr Chord aFourth{45, {62, 64, 69, 74}};
 constexpr Chord fSharpMinor7{42, {61, 64, 66, 69}};
 constexpr Chord eMinor7{40, {62, 64, 67, 71}};
 
-constexpr Pattern rest = "................";
+const Groove opening{.shaker = "..2...3...2...3.", .picks = "0.2.1.3.2.1.3.2.", .padLoudness = 46};
 
-const Groove opening{.kick = rest,
-                     .snare = rest,
-                     .rim = rest,
-                     .hat = rest,
-                     .openHat = rest,
-                     .shaker = "..2...3...2...3.",
-                     .crash = rest,
-                     .bass = rest,
-                     .picks = "0.2.1.3.2.1.3.2.",
-                     .keys = rest,
-                     .padLoudness = 46};
-
-const Groove pickUp{.kick = rest,
-                    .snare = "............3.46",
-                    .rim = rest,
-                    .hat = rest,
-                    .openHat = rest,
+const Groove pickUp{.snare = "............3.46",
                     .shaker = "..2...3...2...3.",
-                    .crash = rest,
                     .bass = "r.............f.",
                     .picks = "0.2.1.3.2.1.3.2.",
-                    .keys = rest,
                     .padLoudness = 50};
 
 const Groove verse{.kick = "8.....5.7.......",
-                   .snare = rest,
                    .rim = "....6.......6..2",
                    .hat = "5...5...5...5.3.",
-                   .openHat = rest,
-                   .shaker = rest,
-                   .crash = rest,
                    .bass = "r.....r.f...r.f.",
                    .picks = "0.2.1.3.0.2.1.3.",
-                   .keys = rest,
                    .padLoudness = 44};
 
 const Groove verseFill{.kick = "8.....5.7.......",
                        .snare = "..........3.5.67",
                        .rim = "....6...........",
                        .hat = "5...5...5.......",
-                       .openHat = rest,
-                       .shaker = rest,
-                       .crash = rest,
                        .bass = "r.....r.f.r.f.r.",
                        .picks = "0.2.1.3.0.2.1.3.",
                        .keys = "............4...",
@@ -65,11 +49,8 @@ const Groove verseFill{.kick = "8.....5.7.......",
 
 const Groove chorus{.kick = "8.....6.8..5....",
                     .snare = "....8.......8...",
-                    .rim = rest,
                     .hat = "6.4.6.4.6.4.6...",
                     .openHat = "..............4.",
-                    .shaker = rest,
-                    .crash = rest,
                     .bass = "r..r..o.f..f..r.",
                     .picks = "0.2.3.2.1.2.3.2.",
                     .keys = "5..4..4...4..4..",
@@ -77,10 +58,8 @@ const Groove chorus{.kick = "8.....6.8..5....",
 
 const Groove chorusStart{.kick = "9.....6.8..5....",
                          .snare = "....8.......8...",
-                         .rim = rest,
                          .hat = "..4.6.4.6.4.6...",
                          .openHat = "..............4.",
-                         .shaker = rest,
                          .crash = "6...............",
                          .bass = "r..r..o.f..f..r.",
                          .picks = "0.2.3.2.1.2.3.2.",
@@ -88,37 +67,27 @@ const Groove chorusStart{.kick = "9.....6.8..5....",
                          .padLoudness = 60};
 
 const Groove slowing{.kick = "7...............",
-                     .snare = rest,
                      .rim = "....5.......5...",
                      .hat = "4...3...4...3...",
-                     .openHat = rest,
-                     .shaker = rest,
-                     .crash = rest,
                      .bass = "r.......f.......",
                      .picks = "0.2.1.3.2.1.3.2.",
-                     .keys = rest,
                      .padLoudness = 50};
 
 const Groove lastChord{.kick = "6...............",
-                       .snare = rest,
-                       .rim = rest,
-                       .hat = rest,
-                       .openHat = rest,
-                       .shaker = rest,
                        .crash = "3...............",
                        .bass = "r...............",
                        .picks = "0.1.2.3.........",
                        .keys = "4...............",
                        .padLoudness = 50};
 
-constexpr Bar whole(const Chord& chord, const Groove& groove) {
-    return {chord, chord, &groove};
-}
-
 }  // namespace
 
 Arrangement demoSong() {
     return {
+        .title = "Demo 1",
+        .sharps = 2,
+        .stepsPerBar = 16,
+        .band = band,
         .bars =
             {
                 // Opening
@@ -150,7 +119,7 @@ Arrangement demoSong() {
                 {dNinth, d, &slowing},
                 whole(d, lastChord),
             },
-        .answers =
+        .notes =
             {
                 {0, 8, 4, 81, 104},   {0, 12, 4, 78, 100}, {1, 4, 12, 76, 102},                         // opening
                 {2, 8, 4, 78, 104},   {2, 12, 4, 79, 102}, {3, 0, 6, 78, 104},   {3, 8, 8, 76, 100},    //
@@ -164,3 +133,5 @@ Arrangement demoSong() {
         .tempos = {{0, 0, 96}, {22, 0, 90}, {22, 8, 82}, {23, 0, 70}},
     };
 }
+
+}  // namespace lyrebrook
