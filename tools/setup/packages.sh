@@ -1,4 +1,4 @@
-# Debian packages that the project stands on, and their installation. Sourced by ./run and ./test.
+# Debian packages that the project stands on, and their installation. Sourced by ./run, ./test and bench/run.
 
 build_packages=(
     ca-certificates ccache cmake g++ ninja-build pkg-config
@@ -9,6 +9,7 @@ test_packages=(
     clang-format clang-tidy-19 git googletest libgmock-dev libgtest-dev procps
     dbus pipewire pipewire-pulse pulseaudio pulseaudio-utils wireplumber
 )
+bench_packages=(cmt ecasound googletest libgmock-dev libgtest-dev sox)
 
 # install_packages NAME...: installs those that are missing and says so; asks for nothing where all are there.
 install_packages() {
