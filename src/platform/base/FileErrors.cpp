@@ -9,6 +9,8 @@ const char* wordsFor(RuntimeErrorNumber number) {
     switch (number) {
         case RuntimeErrorNumber::fileNotFound:
             return "File not found";
+        case RuntimeErrorNumber::fileAlreadyExists:
+            return "File already exists";
         case RuntimeErrorNumber::diskFull:
             return "Disk full";
         case RuntimeErrorNumber::inputPastEndOfFile:
@@ -33,6 +35,8 @@ RuntimeErrorNumber numberFor(int errorNumber) {
         case EDQUOT:
         case EFBIG:
             return RuntimeErrorNumber::diskFull;
+        case EEXIST:
+            return RuntimeErrorNumber::fileAlreadyExists;
         case EACCES:
         case EPERM:
         case EROFS:

@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
@@ -58,6 +60,10 @@ ssize_t DiskCalls::write(int file, std::span<const std::byte> bytes) {
     return ::write(file, bytes.data(), bytes.size());
 }
 
+ssize_t DiskCalls::copy(int from, int to, std::size_t bytes) {
+    return ::copy_file_range(from, nullptr, to, nullptr, bytes, 0);
+}
+
 int DiskCalls::flush(int file) {
     return ::fsync(file);
 }
@@ -88,6 +94,27 @@ void ReplacingFile::write(std::span<const std::byte> bytes) {
             throw fileErrorOf(errno);
         }
     }
+}
+
+std::size_t ReplacingFile::copyFrom(int source, std::size_t bytes) {
+    CHECK(file_ >= 0);
+    // The system copies without a way through our memory, and shares the bytes on disks that can. Where it can't, it
+    // says so by an error or by nothing at all, and then reading tells whether the source is bad or at its end.
+    const ssize_t copied = disk->copy(source, file_, bytes);
+    if (copied > 0) return static_cast<std::size_t>(copied);
+    return readAndWrite(source, bytes);
+}
+
+std::size_t ReplacingFile::readAndWrite(int source, std::size_t bytes) {
+    std::array<std::byte, 64 * 1024> piece;
+    const std::size_t wanted = std::min(bytes, piece.size());
+    ssize_t count;
+    do {
+        count = ::read(source, piece.data(), wanted);
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) throw fileErrorOf(errno);
+    write(std::span(piece).first(static_cast<std::size_t>(count)));
+    return static_cast<std::size_t>(count);
 }
 
 void ReplacingFile::commit() {

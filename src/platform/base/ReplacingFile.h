@@ -15,6 +15,7 @@ class DiskCalls {
     virtual ~DiskCalls() = default;
 
     virtual ssize_t write(int file, std::span<const std::byte> bytes);
+    virtual ssize_t copy(int from, int to, std::size_t bytes);  ///< copy_file_range from place to place
     virtual int flush(int file);
     virtual int rename(const char* from, const char* to);
 };
@@ -39,6 +40,9 @@ class ReplacingFile {
 
     void write(std::span<const std::byte> bytes);
 
+    /// Appends what `source`, opened for reading, has next, at most `bytes` of it. How many that were, 0 at its end.
+    std::size_t copyFrom(int source, std::size_t bytes);
+
     /// Puts what was written in the old file's place. Once, and nothing is written after it.
     void commit();
 
@@ -46,6 +50,7 @@ class ReplacingFile {
     static void setDiskCalls(DiskCalls* calls) noexcept;
 
   private:
+    std::size_t readAndWrite(int source, std::size_t bytes);
     void openTemporary();
     void keepPermissions() const;
     void close() noexcept;

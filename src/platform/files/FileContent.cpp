@@ -11,32 +11,22 @@
 #include "platform/base/FileErrors.h"
 
 namespace lyrebrook {
-namespace {
 
-/// A file opened for reading; closed with the object.
-class OpenFile {
-  public:
-    explicit OpenFile(const QString& path) : number_(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC)) {
-        if (number_ < 0) throw fileErrorOf(errno);
+OpenFile::OpenFile(const QString& path) : number_(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (number_ < 0) throw errno == ENOENT ? missingFileError(path) : fileErrorOf(errno);
+}
+
+OpenFile::~OpenFile() {
+    ::close(number_);
+}
+
+qsizetype OpenFile::read(char* place, qsizetype size) const {
+    for (;;) {
+        const ssize_t count = ::read(number_, place, static_cast<std::size_t>(size));
+        if (count >= 0) return count;
+        if (errno != EINTR) throw fileErrorOf(errno);
     }
-    ~OpenFile() { ::close(number_); }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    /// Bytes read into `place`, 0 at the end.
-    qsizetype read(char* place, qsizetype size) const {
-        for (;;) {
-            const ssize_t count = ::read(number_, place, static_cast<std::size_t>(size));
-            if (count >= 0) return count;
-            if (errno != EINTR) throw fileErrorOf(errno);
-        }
-    }
-
-  private:
-    int number_;
-};
-
-}  // namespace
+}
 
 std::filesystem::path nativePath(const QString& path) {
     return QFile::encodeName(path).toStdString();

@@ -10,6 +10,23 @@
 
 namespace lyrebrook {
 
+/// A file opened for reading; closed with the object. RuntimeErrors as those of `readFile`.
+class OpenFile {
+  public:
+    explicit OpenFile(const QString& path);
+    ~OpenFile();
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    int number() const { return number_; }
+
+    /// Bytes read into `place`, 0 at the end.
+    qsizetype read(char* place, qsizetype size) const;
+
+  private:
+    int number_;
+};
+
 std::filesystem::path nativePath(const QString& path);
 
 /// All bytes of a file. RuntimeError `fileNotFound`, `pathNotFound` when its folder is missing too, `pathFileAccess`

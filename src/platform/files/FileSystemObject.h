@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "platform/files/TextStream.h"
@@ -45,7 +46,20 @@ class FileSystemObject {
     /// its owner may not write. A link goes, the file behind it stays.
     void DeleteFile(const QString& path, bool force = false) const;
 
-    /// Without `create` a missing file is the RuntimeError `fileNotFound`; with it, reading makes an empty one.
+    /// A folder with all that it holds. RuntimeError `pathNotFound`, or `permissionDenied`, which without `force` also
+    /// meets a file in it that its owner may not write: then nothing goes. Of links, the folder's own and those in it,
+    /// only the link goes.
+    void DeleteFolder(const QString& path, bool force = false) const;
+
+    /// RuntimeError `pathNotFound` when there is no folder to make it in, `fileAlreadyExists` for a name that is taken.
+    void CreateFolder(const QString& path) const;
+
+    /// Copies one file's content over whatever file is at `to`, or into the folder `to` when that ends in a separator.
+    /// The copy stands there whole or, after a RuntimeError, not at all. `betweenPieces` runs every few megabytes.
+    void CopyFile(const QString& from, const QString& to, const std::function<void()>& betweenPieces = {}) const;
+
+    /// Without `create` a missing file is the RuntimeError `fileNotFound`; with it, reading makes an empty one, and
+    /// writing makes the file when the stream is closed.
     TextStream OpenTextFile(const QString& path, IOMode mode, bool create = false) const;
 };
 

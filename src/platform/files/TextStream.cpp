@@ -33,6 +33,18 @@ QString TextStream::ReadLine() {
     return decodeText(line.text);
 }
 
+QString TextStream::ReadAll() {
+    CHECK(!target_);
+    if (AtEndOfStream()) throw fileError(RuntimeErrorNumber::inputPastEndOfFile);
+    QString text;
+    while (!AtEndOfStream()) {
+        const RawLine line = firstLine(QByteArrayView(content_).sliced(position_));
+        position_ += line.whole.size();
+        text += decodeText(line.whole);
+    }
+    return text;
+}
+
 void TextStream::Write(const QString& text) {
     CHECK(target_);
     content_ += encodeText(text);

@@ -21,6 +21,7 @@ class TextStream {
 
     bool AtEndOfStream() const;
     QString ReadLine();  ///< ends at CR LF, LF, a lone CR or the end of the file
+    QString ReadAll();   ///< what is left, with its line ends as they are
 
     void Write(const QString& text);
     void WriteLine(const QString& text = {});  ///< with CR LF

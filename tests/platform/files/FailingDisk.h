@@ -16,6 +16,7 @@ class FailingDisk : public DiskCalls {
 
     std::size_t room = std::numeric_limits<std::size_t>::max();         ///< bytes until it is full
     std::size_t bytesAtOnce = std::numeric_limits<std::size_t>::max();  ///< taken by one write
+    bool copies = true;                                                 ///< from file to file by itself
     bool interrupts = false;                                            ///< every second write
     int flushError = 0;
     int renameError = 0;
@@ -26,6 +27,13 @@ class FailingDisk : public DiskCalls {
         const std::size_t count = std::min({bytes.size(), room, bytesAtOnce});
         room -= count;
         return DiskCalls::write(file, bytes.first(count));
+    }
+    ssize_t copy(int from, int to, std::size_t bytes) override {
+        if (!copies) return fail(EXDEV);
+        if (room == 0) return fail(ENOSPC);
+        const ssize_t count = DiskCalls::copy(from, to, std::min({bytes, room, bytesAtOnce}));
+        if (count > 0) room -= static_cast<std::size_t>(count);
+        return count;
     }
     int flush(int file) override { return flushError ? fail(flushError) : DiskCalls::flush(file); }
     int rename(const char* from, const char* to) override {

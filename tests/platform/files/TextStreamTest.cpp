@@ -37,6 +37,13 @@ TEST_F(TextStreamTest, ALineThatIsNotUtf8IsOfTheOldCodePage) {
               (QStringList{u"café"_qs, u"café € “\u0081"_qs, u"€"_qs}));
 }
 
+TEST_F(TextStreamTest, AllThatIsLeftKeepsItsLineEnds) {
+    TextStream stream = TextStream::openForReading(holding("text", "one\r\ntwo\r\n\ncaf\xE9\rcaf\xC3\xA9"));
+    stream.ReadLine();
+    EXPECT_EQ(stream.ReadAll(), u"two\r\n\ncafé\rcafé"_qs);
+    EXPECT_EQ(errorOf([&] { stream.ReadAll(); }), 62);
+}
+
 TEST_F(TextStreamTest, AHugeLineIsOneLine) {
     const QByteArray huge(10'000'000, 'x');
     const QStringList lines = linesOf(huge + "\r\nshort");
