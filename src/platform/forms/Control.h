@@ -23,6 +23,8 @@ enum class Look {
     primary,  ///< the button that a screen is for
     danger,   ///< a button that destroys
     compact,  ///< a button without air, for one letter
+    bare,     ///< a frame that only holds together
+    page,     ///< a frame that fills the place under its tabs
 };
 
 /// A named object on a form. It owns one widget, unless the widget's container went first, and turns the widget's

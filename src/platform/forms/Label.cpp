@@ -19,16 +19,17 @@ bool isClickKey(const QEvent& event) {
 
 }  // namespace
 
-Label::Label(QWidget* container, const QString& caption) : Control(new QLabel(caption, container)) {
+Label::Label(QWidget* container, const QString& caption) : Control(new QLabel(caption, container)), caption_(caption) {
     as<QLabel>().setTextFormat(Qt::PlainText);
 }
 
 QString Label::Caption() const {
-    return as<QLabel>().text();
+    return caption_;
 }
 
 void Label::setCaption(const QString& caption) {
-    as<QLabel>().setText(caption);
+    caption_ = caption;
+    showCaption();
 }
 
 void Label::setAlignment(Qt::Alignment alignment) {
@@ -37,6 +38,20 @@ void Label::setAlignment(Qt::Alignment alignment) {
 
 void Label::setWordWrap(bool wrap) {
     as<QLabel>().setWordWrap(wrap);
+}
+
+void Label::setElided() {
+    elided_ = true;
+    widget()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    showCaption();
+}
+
+void Label::showCaption() {
+    auto& label = as<QLabel>();
+    if (!elided_) return label.setText(caption_);
+    label.setText(label.fontMetrics().elidedText(caption_, Qt::ElideMiddle, label.contentsRect().width()));
+    setAccessibleName(caption_);
+    setToolTipText(label.text() == caption_ ? QString() : caption_);
 }
 
 void Label::makeLink() {
@@ -49,6 +64,9 @@ void Label::makeLink() {
 
 bool Label::filter(QEvent& event) {
     switch (event.type()) {
+        case QEvent::Resize:
+            if (elided_) showCaption();
+            return false;
         case QEvent::MouseButtonPress:
             pressed_ = isLeftButton(event);
             return false;

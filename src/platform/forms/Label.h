@@ -13,6 +13,8 @@ class Label final : public Control {
     void setCaption(const QString& caption);
     void setAlignment(Qt::Alignment alignment);
     void setWordWrap(bool wrap);
+    /// A caption that is too wide loses its middle, and is the tool tip then; it asks for no room of its own.
+    void setElided();
     /// Looks and acts like a link: a hand over it, the focus stops at it, Enter and Space click it.
     void makeLink();
     /// This text names that control to screen readers.
@@ -25,6 +27,10 @@ class Label final : public Control {
     bool filter(QEvent& event) override;
 
   private:
+    void showCaption();
+
+    QString caption_;
+    bool elided_ = false;
     bool pressed_ = false;
     bool link_ = false;
 };
