@@ -6,6 +6,7 @@
 
 #include "backtrack/FrmMixer.h"
 #include "backtrack/FrmSelect.h"
+#include "democd/FrmDemoCD.h"
 #include "platform/files/App.h"
 #include "platform/files/FileSystemObject.h"
 #include "platform/forms/Desktop.h"
@@ -134,6 +135,7 @@ void FrmIntro::connectHandlers() {
     for (auto* entry : {&lblStep2.Click, &mnuStep2.Click}) on(*entry, &FrmIntro::mnuStep2_Click);
     for (auto* entry : {&lblStep3.Click, &mnuStep3.Click}) on(*entry, &FrmIntro::mnuStep3_Click);
     for (auto* entry : {&lblStep4.Click, &mnuStep4.Click}) on(*entry, &FrmIntro::mnuStep4_Click);
+    for (auto* entry : {&lblStep5.Click, &mnuStep5.Click}) on(*entry, &FrmIntro::mnuStep5_Click);
     on(picStatusN, &PictureBox::Click, &FrmIntro::picStatusN_Click);
     on(mnuHelp2.Click, [this] { openHelp(0); });
     on(mnuAbout2.Click, &FrmIntro::mnuAbout2_Click);
@@ -141,10 +143,6 @@ void FrmIntro::connectHandlers() {
 }
 
 void FrmIntro::Form_Load() {
-    // The demo CD has no screen yet.
-    lblStep5.setEnabled(false);
-    mnuStep5.setEnabled(false);
-    picStatusN[4].setEnabled(false);
     gSongTemplate = App::Path() + QStringLiteral("/songTemplate/songTemplate.wav");
     gSongsFolder = App::Path() + QStringLiteral("/songs/");
     gTracksFolder = App::Path() + QStringLiteral("/tracks/Version1/");
@@ -202,6 +200,10 @@ void FrmIntro::mnuStep4_Click() {
     frmComposer.Show();
 }
 
+void FrmIntro::mnuStep5_Click() {
+    frmDemoCD.Show();
+}
+
 void FrmIntro::picStatusN_Click(int index) {
     switch (index) {
         case 0:
@@ -213,7 +215,7 @@ void FrmIntro::picStatusN_Click(int index) {
         case 3:
             return mnuStep4_Click();
         default:
-            return;
+            return mnuStep5_Click();
     }
 }
 

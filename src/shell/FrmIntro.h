@@ -36,6 +36,7 @@ class FrmIntro final : public Form {
     void mnuStep2_Click();
     void mnuStep3_Click();
     void mnuStep4_Click();
+    void mnuStep5_Click();
 
     /// Lights of the steps, index 0 to 4, stacked pairwise: the one in front is the one seen.
     ControlArray<PictureBox> picStatusN;

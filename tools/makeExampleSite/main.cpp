@@ -1,0 +1,52 @@
+// Makes a site from a workset file, as the wizard does: makeExampleSite WORKSET TEMPLATES SITE. The folder SITE must
+// exist. Songs and photographs whose full path is relative are looked for beside the workset.
+#include <QDir>
+#include <QFileInfo>
+#include <cstdio>
+
+#include "democd/MediaFolder.h"
+#include "democd/SiteGenerator.h"
+#include "platform/base/RuntimeError.h"
+
+namespace lyrebrook {
+namespace {
+
+QString folderText(const char* argument) {
+    return QDir(QFile::decodeName(argument)).absolutePath() + u'/';
+}
+
+void lookBeside(const QString& workset, MediaFile& file) {
+    if (file.isSelected()) file.path = QFileInfo(workset).absoluteDir().absoluteFilePath(file.path);
+}
+
+/// Whether everything could be read and written.
+bool makeSite(const QString& worksetPath, const QString& templates, const QString& site) {
+    Workset workset = readWorkset(worksetPath);
+    for (WorksetSong& song : workset.songs) lookBeside(worksetPath, song.file);
+    for (WorksetPhoto& photo : workset.photos) lookBeside(worksetPath, photo.file);
+    bool whole = true;
+    const SiteGenerator generator(templates, site, [&](const QString& message) {
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+        whole = false;
+    });
+    generator.createSite(workset, htmlOf(workset));
+    rebuildMediaFolder(site, workset, {});
+    return whole;
+}
+
+}  // namespace
+}  // namespace lyrebrook
+
+int main(int argumentCount, char** arguments) {
+    using namespace lyrebrook;
+    if (argumentCount != 4) {
+        std::fputs("usage: makeExampleSite WORKSET TEMPLATES SITE\n", stderr);
+        return 2;
+    }
+    try {
+        return makeSite(QFile::decodeName(arguments[1]), folderText(arguments[2]), folderText(arguments[3])) ? 0 : 1;
+    } catch (const RuntimeError& error) {
+        std::fprintf(stderr, "%s: %s\n", arguments[3], error.what());
+        return 1;
+    }
+}
