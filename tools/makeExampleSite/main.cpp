@@ -1,7 +1,7 @@
 // Makes a site from a workset file, as the wizard does: makeExampleSite WORKSET TEMPLATES SITE. The folder SITE must
-// exist. Songs and photographs whose full path is relative are looked for beside the workset.
+// exist.
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <cstdio>
 
 #include "democd/MediaFolder.h"
@@ -15,15 +15,9 @@ QString folderText(const char* argument) {
     return QDir(QFile::decodeName(argument)).absolutePath() + u'/';
 }
 
-void lookBeside(const QString& workset, MediaFile& file) {
-    if (file.isSelected()) file.path = QFileInfo(workset).absoluteDir().absoluteFilePath(file.path);
-}
-
 /// Whether everything could be read and written.
 bool makeSite(const QString& worksetPath, const QString& templates, const QString& site) {
-    Workset workset = readWorkset(worksetPath);
-    for (WorksetSong& song : workset.songs) lookBeside(worksetPath, song.file);
-    for (WorksetPhoto& photo : workset.photos) lookBeside(worksetPath, photo.file);
+    const Workset workset = readWorkset(worksetPath);
     bool whole = true;
     const SiteGenerator generator(templates, site, [&](const QString& message) {
         std::fprintf(stderr, "%s\n", qPrintable(message));

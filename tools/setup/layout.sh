@@ -24,15 +24,32 @@ ship() {
     echo "$(checksum "$source")  $name" >>"$folder/.shipped"
 }
 
+# place_workset SOURCE FOLDER: a workset as it is laid out. It names its files by full paths, so it learns where it stands.
+place_workset() {
+    local text here
+    text=$(<"$1")
+    here=$(realpath "$2")
+    printf '%s\n' "${text//@PROGRAM_FOLDER@/"$here"}"
+}
+
 # lay_out BUILD FOLDER: brings FOLDER up to date with the build in BUILD.
 lay_out() {
-    local build=$1 folder=$2 name tree
+    local build=$1 folder=$2 name tree source
     for name in "${data_folders[@]}"; do mkdir -p "$folder/$name"; done
     if ! cmp -s "$build/bin/lyrebrook" "$folder/lyrebrook"; then
         cp "$build/bin/lyrebrook" "$folder/lyrebrook.new"
         mv "$folder/lyrebrook.new" "$folder/lyrebrook"
     fi
     for tree in data "$build/data"; do
-        while IFS= read -r name; do ship "$tree/$name" "$folder" "$name"; done < <(cd "$tree" && find . -type f -printf '%P\n')
+        while IFS= read -r name; do
+            source=$tree/$name
+            case $name in
+                *.xon) source=$build/placedWorkset && place_workset "$tree/$name" "$folder" >"$source" ;;
+            esac
+            ship "$source" "$folder" "$name"
+        done < <(cd "$tree" && find . -type f -printf '%P\n')
+        while IFS= read -r name; do
+            [ -e "$folder/$name" ] || cp -P "$tree/$name" "$folder/$name"
+        done < <(cd "$tree" && find . -type l -printf '%P\n')
     done
 }
