@@ -12,7 +12,7 @@ platform/sound    | platform/base                                               
 platform/files    | platform/base                                                      | Qt
 platform/system   | platform/base                                                      | Qt
 platform/music    | platform/base platform/sound                                       | Qt fluidsynth
-platform/winmm    | platform/base platform/sound                                       |
+platform/winmm    | platform/base platform/sound                                       | Qt
 platform/directx  | platform/base platform/sound platform/music                        | Qt
 platform/forms    | platform/base platform/files                                       | Qt
 platform/help     | platform/base platform/files platform/forms                        | Qt

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 
 #include "platform/sound/SoundFormat.h"
 
 namespace lyrebrook {
+
+class MixerBackend;
 
 /// Where a card has its engine mix to: interleaved stereo, full scale 1.0, both of one length. The buses stay apart
 /// up to the card because each has a level of its own there.
@@ -54,6 +57,9 @@ class SoundCard {
 
     /// Outputs that a person could hear.
     virtual std::int32_t outputCount() const = 0;
+
+    /// The mixer of the card, which may outlive it; null when it has none.
+    virtual std::shared_ptr<MixerBackend> mixer() { return nullptr; }
 };
 
 }  // namespace lyrebrook

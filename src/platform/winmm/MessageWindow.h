@@ -24,7 +24,8 @@ struct WindowMessage {
     friend bool operator==(const WindowMessage&, const WindowMessage&) = default;
 };
 
-/// Puts messages into one window's queue, from any thread; what comes when the window is gone is dropped.
+/// Puts messages into one window's queue, from any thread. One that waits there already is not put in a second time;
+/// what comes when the window is gone is dropped.
 using MessagePost = std::function<void(const WindowMessage&)>;
 
 /// The end at which a form receives messages of its devices. Each comes as an event of the program's thread, never from

@@ -21,7 +21,7 @@ MMRESULT mixerGetDevCapsA(std::int32_t device, MIXERCAPS& caps, std::int32_t siz
 /// change, also by another program; changes of one control that come faster than the window listens are one message.
 MMRESULT mixerOpen(HMIXER& mixer, std::int32_t device, HWND window, std::int32_t instance, std::int32_t flags);
 
-/// Messages that still wait are dropped.
+/// What waits for the window then still reaches it.
 MMRESULT mixerClose(HMIXER mixer);
 
 MMRESULT mixerGetLineInfoA(HMIXER mixer, MIXERLINE& line, std::int32_t flags);

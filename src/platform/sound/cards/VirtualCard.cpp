@@ -5,6 +5,7 @@
 
 #include "platform/base/Check.h"
 #include "platform/sound/RealTimeScope.h"
+#include "platform/sound/cards/VirtualMixer.h"
 #include "platform/sound/mixing.h"
 
 namespace lyrebrook {
@@ -20,24 +21,6 @@ std::size_t inputOf(CardLine line) {
     const auto found = std::ranges::find(inputLines, line);
     CHECK(found != inputLines.end());
     return static_cast<std::size_t>(found - inputLines.begin());
-}
-
-std::uint32_t packed(LineLevel level) {
-    return std::uint32_t{level.left} << 16 | level.right;
-}
-
-LineLevel unpacked(std::uint32_t level) noexcept {
-    return {static_cast<std::uint16_t>(level >> 16), static_cast<std::uint16_t>(level)};
-}
-
-StereoGain gainAt(LineLevel level) noexcept {
-    constexpr float top = 65535;
-    return {static_cast<float>(level.left) / top, static_cast<float>(level.right) / top};
-}
-
-template <class Line>
-std::size_t indexOf(Line line) noexcept {
-    return static_cast<std::size_t>(line);
 }
 
 void scale(std::span<float> samples, StereoGain gain) noexcept {
@@ -64,7 +47,6 @@ struct VirtualCard::Block {
 
 VirtualCard::VirtualCard(Clock clock, Frames captureLatency)
     : clock_(clock), delay_(captureLatency), block_(std::make_unique<Block>()) {
-    for (auto& level : recordingLevels_) level = fullLevel;
     // As on every card: a microphone in the loudspeakers howls.
     setMuted(CardLine::microphone, true);
 }
@@ -84,36 +66,8 @@ void VirtualCard::stop() {
     client_ = nullptr;
 }
 
-void VirtualCard::setLevel(CardLine line, LineLevel level) {
-    lines_[indexOf(line)].level = packed(level);
-}
-
-LineLevel VirtualCard::level(CardLine line) const {
-    return unpacked(lines_[indexOf(line)].level);
-}
-
-void VirtualCard::setMuted(CardLine line, bool muted) {
-    lines_[indexOf(line)].muted = muted;
-}
-
-bool VirtualCard::muted(CardLine line) const {
-    return lines_[indexOf(line)].muted;
-}
-
-void VirtualCard::selectRecording(RecordingLine line) {
-    selected_ = line;
-}
-
-RecordingLine VirtualCard::selectedRecording() const {
-    return selected_;
-}
-
-void VirtualCard::setRecordingLevel(RecordingLine line, LineLevel level) {
-    recordingLevels_[indexOf(line)] = packed(level);
-}
-
-LineLevel VirtualCard::recordingLevel(RecordingLine line) const {
-    return unpacked(recordingLevels_[indexOf(line)]);
+std::shared_ptr<MixerBackend> VirtualCard::mixer() {
+    return std::make_shared<VirtualMixer>(lines_);
 }
 
 void VirtualCard::advance(Frames frames) {
@@ -158,12 +112,12 @@ void VirtualCard::play(std::size_t frames) noexcept {
     Block& block = *block_;
     const auto mix = std::span{block.mix}.first(2 * frames);
     const auto wave = std::span{block.wave}.first(2 * frames);
-    scale(wave, gainOf(CardLine::wave));
+    scale(wave, lines_->gain(CardLine::wave));
     std::ranges::copy(wave, mix.begin());
-    const StereoGain synth = gainOf(CardLine::softwareSynth);
+    const StereoGain synth = lines_->gain(CardLine::softwareSynth);
     addSamples(std::span{block.softwareSynth}.first(2 * frames), {synth, synth}, mix);
     addInputs(mix);
-    scale(mix, gainOf(CardLine::master));
+    scale(mix, lines_->gain(CardLine::master));
     toFrames(mix, block.played);
 }
 
@@ -171,7 +125,7 @@ void VirtualCard::addInputs(std::span<float> mix) noexcept {
     for (std::size_t i = 0; i < inputLines.size(); ++i) {
         const auto input = std::span{block_->inputs[i]}.first(mix.size());
         feeds_.take(i, input);
-        const StereoGain gain = gainOf(inputLines[i]);
+        const StereoGain gain = lines_->gain(inputLines[i]);
         addSamples(input, {gain, gain}, mix);
     }
 }
@@ -180,7 +134,7 @@ void VirtualCard::record(std::size_t frames) noexcept {
     const RealTimeScope scope;
     const auto recording = std::span{block_->recording}.first(2 * frames);
     std::ranges::copy(recorded(frames), recording.begin());
-    scale(recording, gainAt(recordingLevel(selected_)));
+    scale(recording, lines_->recordingGain());
     toFrames(recording, block_->captured);
     const std::size_t lost = inputOpen_ ? framesLost(frames) : frames;
     const auto captured = std::span<const StereoFrame>(block_->captured).first(frames);
@@ -190,7 +144,7 @@ void VirtualCard::record(std::size_t frames) noexcept {
 
 std::span<const float> VirtualCard::recorded(std::size_t frames) const noexcept {
     const auto part = [frames](const Block::Samples& samples) { return std::span{samples}.first(2 * frames); };
-    switch (selected_.load()) {
+    switch (selectedRecording()) {
         case RecordingLine::microphone:
             return part(block_->inputs[inputOf(CardLine::microphone)]);
         case RecordingLine::lineIn:
@@ -212,10 +166,6 @@ std::size_t VirtualCard::framesLost(std::size_t frames) noexcept {
     const Frames lost = std::min(framesToLose_.load(), static_cast<Frames>(frames));
     framesToLose_ -= lost;
     return static_cast<std::size_t>(lost);
-}
-
-StereoGain VirtualCard::gainOf(CardLine line) const noexcept {
-    return muted(line) ? StereoGain{0, 0} : gainAt(level(line));
 }
 
 }  // namespace lyrebrook

@@ -11,25 +11,10 @@
 #include "platform/sound/EngineUnit.h"
 #include "platform/sound/SoundCard.h"
 #include "platform/sound/cards/CaptureDelay.h"
+#include "platform/sound/cards/CardLines.h"
 #include "platform/sound/cards/InputFeeds.h"
 
 namespace lyrebrook {
-
-/// A line of the virtual card that has a level and a mute in what is heard.
-enum class CardLine : std::uint8_t { master, wave, softwareSynth, cd, lineIn, microphone, aux };
-inline constexpr std::size_t cardLineCount = 7;
-
-/// What the virtual card can record, each with a level of its own.
-enum class RecordingLine : std::uint8_t { stereoMix, microphone, lineIn, cd, wave, aux };
-inline constexpr std::size_t recordingLineCount = 6;
-
-/// Both sides of a line's level, 0 to 65535, which is unchanged loudness; in between it is proportional.
-struct LineLevel {
-    std::uint16_t left = 65535;
-    std::uint16_t right = 65535;
-
-    friend bool operator==(const LineLevel&, const LineLevel&) = default;
-};
 
 /// The sound card that is always there: lines with levels and mutes that act on what is heard and recorded, inputs that
 /// can be fed, and no loudspeaker. Its clock is the real one on a thread of the card's own, or a hand crank, `advance`,
@@ -55,14 +40,14 @@ class VirtualCard final : public SoundCard {
     /// Outputs to report; none unless told otherwise.
     void setOutputCount(std::int32_t count) { outputCount_ = count; }
 
-    void setLevel(CardLine line, LineLevel level);
-    LineLevel level(CardLine line) const;
-    void setMuted(CardLine line, bool muted);
-    bool muted(CardLine line) const;
-    void selectRecording(RecordingLine line);
-    RecordingLine selectedRecording() const;
-    void setRecordingLevel(RecordingLine line, LineLevel level);
-    LineLevel recordingLevel(RecordingLine line) const;
+    std::shared_ptr<MixerBackend> mixer() override;
+
+    CardLines& lines() { return *lines_; }
+    void setLevel(CardLine line, LineLevel level) { lines_->setLevel(line, level); }
+    void setMuted(CardLine line, bool muted) { lines_->setMuted(line, muted); }
+    void selectRecording(RecordingLine line) { lines_->selectRecording(line); }
+    RecordingLine selectedRecording() const { return lines_->selectedRecording(); }
+    void setRecordingLevel(RecordingLine line, LineLevel level) { lines_->setRecordingLevel(line, level); }
 
     /// Turns the hand crank: mixes and captures that many frames, in the caller's thread.
     void advance(Frames frames);
@@ -77,12 +62,6 @@ class VirtualCard final : public SoundCard {
     void listen(Listener listener) { listener_ = std::move(listener); }
 
   private:
-    /// Left in the upper half, right in the lower.
-    static constexpr std::uint32_t fullLevel = 0xFFFFFFFF;
-    struct LineControl {
-        std::atomic<std::uint32_t> level{fullLevel};
-        std::atomic<bool> muted{false};
-    };
     struct Block;
 
     void keepTime(const std::stop_token& stopping);
@@ -92,15 +71,12 @@ class VirtualCard final : public SoundCard {
     void record(std::size_t frames) noexcept;
     std::span<const float> recorded(std::size_t frames) const noexcept;
     std::size_t framesLost(std::size_t frames) noexcept;
-    StereoGain gainOf(CardLine line) const noexcept;
 
     Clock clock_;
     SoundCardClient* client_ = nullptr;
     std::int32_t outputCount_ = 0;
     Listener listener_;
-    std::array<LineControl, cardLineCount> lines_;
-    std::array<std::atomic<std::uint32_t>, recordingLineCount> recordingLevels_;
-    std::atomic<RecordingLine> selected_{RecordingLine::stereoMix};
+    std::shared_ptr<CardLines> lines_ = std::make_shared<CardLines>();
     std::atomic<bool> inputOpen_{false};
     std::atomic<Frames> framesToLose_{0};
     InputFeeds feeds_;

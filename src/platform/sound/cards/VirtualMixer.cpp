@@ -1,0 +1,199 @@
+#include "platform/sound/cards/VirtualMixer.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/sound/cards/MixerMemory.h"
+
+namespace lyrebrook {
+namespace {
+
+// Kinds of lines by their published numbers.
+constexpr std::int32_t speakers = 4;
+constexpr std::int32_t waveIn = 7;
+constexpr std::int32_t lineKind = 0x1002;
+constexpr std::int32_t microphoneKind = 0x1003;
+constexpr std::int32_t synthesizerKind = 0x1004;
+constexpr std::int32_t compactDiscKind = 0x1005;
+constexpr std::int32_t waveOutKind = 0x1008;
+constexpr std::int32_t auxiliaryKind = 0x1009;
+constexpr std::int32_t analogKind = 0x100A;
+
+template <class Line>
+struct NamedLine {
+    Line line;
+    std::int32_t kind;
+    const char* name;
+};
+
+/// A line's place in its table is its number at the destination.
+constexpr std::array playbackLines{
+    NamedLine<CardLine>{CardLine::wave, waveOutKind, "Wave"},
+    NamedLine<CardLine>{CardLine::softwareSynth, synthesizerKind, "SW Synth"},
+    NamedLine<CardLine>{CardLine::cd, compactDiscKind, "CD"},
+    NamedLine<CardLine>{CardLine::lineIn, lineKind, "Line In"},
+    NamedLine<CardLine>{CardLine::microphone, microphoneKind, "Mic"},
+    NamedLine<CardLine>{CardLine::aux, auxiliaryKind, "Aux"},
+};
+constexpr std::array recordingLines{
+    NamedLine<RecordingLine>{RecordingLine::stereoMix, analogKind, "Stereo Mix"},
+    NamedLine<RecordingLine>{RecordingLine::microphone, microphoneKind, "Mic"},
+    NamedLine<RecordingLine>{RecordingLine::lineIn, lineKind, "Line In"},
+    NamedLine<RecordingLine>{RecordingLine::cd, compactDiscKind, "CD"},
+    NamedLine<RecordingLine>{RecordingLine::wave, waveOutKind, "Wave"},
+    NamedLine<RecordingLine>{RecordingLine::aux, auxiliaryKind, "Aux"},
+};
+
+constexpr std::uint16_t speakersNumber = 0;
+constexpr std::uint16_t waveInNumber = 1;
+
+MixerDestination speakersDestination() {
+    const std::vector<MixerControlInfo> controls{{.kind = MixerControlKind::volume, .items = {}},
+                                                 {.kind = MixerControlKind::mute, .maximum = 1, .items = {}}};
+    MixerDestination made{{.id = mixerLineId(speakersNumber, destinationItself),
+                           .componentType = speakers,
+                           .name = "Master",
+                           .controls = controls},
+                          {}};
+    for (std::uint16_t i = 0; i < playbackLines.size(); ++i) {
+        made.sources.push_back({.id = mixerLineId(speakersNumber, i),
+                                .componentType = playbackLines[i].kind,
+                                .name = playbackLines[i].name,
+                                .controls = controls});
+    }
+    return made;
+}
+
+MixerDestination waveInDestination() {
+    MixerControlInfo selection{
+        .kind = MixerControlKind::multiplexer, .maximum = recordingLines.size() - 1, .items = {}};
+    MixerDestination made{{.id = mixerLineId(waveInNumber, destinationItself),
+                           .componentType = waveIn,
+                           .name = "Recording",
+                           .controls = {}},
+                          {}};
+    for (std::uint16_t i = 0; i < recordingLines.size(); ++i) {
+        made.sources.push_back({.id = mixerLineId(waveInNumber, i),
+                                .componentType = recordingLines[i].kind,
+                                .name = recordingLines[i].name,
+                                .controls = {{.kind = MixerControlKind::volume, .items = {}}}});
+        selection.items.push_back(made.sources.back().id);
+    }
+    made.line.controls.push_back(std::move(selection));
+    return made;
+}
+
+std::uint16_t destinationOf(std::int32_t line) {
+    return static_cast<std::uint16_t>(line);
+}
+
+std::size_t numberOf(std::int32_t line) {
+    return static_cast<std::uint32_t>(line) >> 16;
+}
+
+/// Only for lines of the layout.
+CardLine playbackLine(std::int32_t line) {
+    const std::size_t number = numberOf(line);
+    return number == destinationItself ? CardLine::master : playbackLines.at(number).line;
+}
+
+RecordingLine recordingLine(std::int32_t line) {
+    return recordingLines.at(numberOf(line)).line;
+}
+
+LineLevel levelOf(std::span<const std::int32_t> values) {
+    const auto side = [](std::int32_t value) { return static_cast<std::uint16_t>(std::clamp(value, 0, 65535)); };
+    return {side(values[0]), side(values[1])};
+}
+
+class VirtualMixerDevice final : public MixerDevice {
+  public:
+    VirtualMixerDevice(std::shared_ptr<CardLines> lines, MixerListener listener)
+        : lines_(std::move(lines)),
+          listener_(std::move(listener)),
+          layout_{speakersDestination(), waveInDestination()},
+          watch_(lines_->watch([this] { tellChanges(); })) {
+        memory_.look(*this);
+    }
+
+    const MixerLayout& layout() const override { return layout_; }
+
+    std::optional<std::vector<std::int32_t>> read(const MixerControlPlace& control) const override {
+        switch (control.kind) {
+            case MixerControlKind::volume:
+                return readLevel(control.line);
+            case MixerControlKind::mute:
+                return std::vector{lines_->muted(playbackLine(control.line)) ? 1 : 0};
+            default:
+                return readSelection();
+        }
+    }
+
+    bool write(const MixerControlPlace& control, std::span<const std::int32_t> values) override {
+        switch (control.kind) {
+            case MixerControlKind::volume:
+                writeLevel(control.line, levelOf(values));
+                return true;
+            case MixerControlKind::mute:
+                lines_->setMuted(playbackLine(control.line), values[0] != 0);
+                return true;
+            default:
+                writeSelection(values);
+                return true;
+        }
+    }
+
+  private:
+    std::vector<std::int32_t> readLevel(std::int32_t line) const {
+        const LineLevel level = destinationOf(line) == speakersNumber ? lines_->level(playbackLine(line))
+                                                                      : lines_->recordingLevel(recordingLine(line));
+        return {level.left, level.right};
+    }
+
+    void writeLevel(std::int32_t line, LineLevel level) {
+        if (destinationOf(line) == speakersNumber) {
+            lines_->setLevel(playbackLine(line), level);
+        } else {
+            lines_->setRecordingLevel(recordingLine(line), level);
+        }
+    }
+
+    std::vector<std::int32_t> readSelection() const {
+        std::vector<std::int32_t> flags;
+        for (const auto& each : recordingLines) flags.push_back(each.line == lines_->selectedRecording() ? 1 : 0);
+        return flags;
+    }
+
+    /// One line is always selected: taking the last one away changes nothing.
+    void writeSelection(std::span<const std::int32_t> flags) {
+        const auto chosen = std::ranges::find_if(flags, [](std::int32_t flag) { return flag != 0; });
+        if (chosen == flags.end()) return;
+        lines_->selectRecording(recordingLines.at(static_cast<std::size_t>(chosen - flags.begin())).line);
+    }
+
+    void tellChanges() {
+        for (const MixerControlPlace& place : memory_.look(*this)) listener_({place.line, place.kind});
+    }
+
+    std::shared_ptr<CardLines> lines_;
+    MixerListener listener_;
+    MixerLayout layout_;
+    MixerMemory memory_;
+    CardLines::Watch watch_;
+};
+
+}  // namespace
+
+VirtualMixer::VirtualMixer(std::shared_ptr<CardLines> lines) : lines_(std::move(lines)) {}
+
+std::vector<std::string> VirtualMixer::deviceNames() {
+    return {"Virtual sound card"};
+}
+
+std::unique_ptr<MixerDevice> VirtualMixer::open(std::int32_t device, MixerListener listener) {
+    if (device != 0) return nullptr;
+    return std::make_unique<VirtualMixerDevice>(lines_, std::move(listener));
+}
+
+}  // namespace lyrebrook
