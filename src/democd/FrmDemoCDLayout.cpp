@@ -135,7 +135,7 @@ void FrmDemoCD::layOutTop() {
     column->addStretch(1);
     frmTop.setLook(Look::bare);
     frmTop.Move(240, 120, 8265, 1410);
-    TabStrip1.Move(240, 1590, 8400, 570);
+    TabStrip1.Move(240, 1590, 8265, 570);
 }
 
 void FrmDemoCD::layOutProject() {

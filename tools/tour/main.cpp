@@ -25,6 +25,7 @@ void walk(const QString& folder) {
     chooseBacktrack(tour);
     recordBacktrack(tour);
     singVoices(tour);
+    makeDemo(tour);
     tour.require(!complained, QStringLiteral("no complaint on the way"));
     tour.say(QStringLiteral("tour: ok"));
 }

@@ -10,5 +10,6 @@ void createSong(Tour& tour);
 void chooseBacktrack(Tour& tour);
 void recordBacktrack(Tour& tour);
 void singVoices(Tour& tour);
+void makeDemo(Tour& tour);
 
 }  // namespace lyrebrook
