@@ -57,7 +57,7 @@ class SiteInBrowser : public testing::Test {
     static void expectLinksLead(const QString& site) {
         const QJsonArray links = browser().evaluate(everythingReferred).toArray();
         ASSERT_GE(links.size(), 6);  // four pages, the style and the icon
-        for (const QJsonValue& link : links) {
+        for (const auto& link : links) {
             const QUrl url(link.toString());
             if (url.scheme() == QStringLiteral("mailto")) continue;
             EXPECT_TRUE(url.toLocalFile().startsWith(site) && QFileInfo(url.toLocalFile()).isFile())
@@ -96,7 +96,7 @@ TEST_F(SiteInBrowser, EverySongOfTheExampleIsSoundThatTheBrowserPlays) {
             .evaluate(QStringLiteral("return [...document.querySelectorAll('main a')].map(song => song.href)"))
             .toArray();
     ASSERT_EQ(songs.size(), 3);
-    for (const QJsonValue& song : songs) {
+    for (const auto& song : songs) {
         const QUrl url(song.toString());
         QProcess soxi;
         soxi.start(QStringLiteral("soxi"), {QStringLiteral("-D"), url.toLocalFile()});

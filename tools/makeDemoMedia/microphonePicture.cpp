@@ -25,11 +25,11 @@ void paintLights(QPainter& painter) {
 
 // The swell of a phrase: what was just sung, on both sides of the lamp.
 void paintWave(QPainter& painter) {
-    constexpr double step = 12;
+    constexpr int step = 12;
     painter.setBrush(Qt::NoBrush);
-    for (double x = step; x < pictureWidth; x += step) {
+    for (int x = step; x < pictureWidth; x += step) {
         const double phrase = std::pow(std::sin(std::numbers::pi * x / pictureWidth), 1.6);
-        const double syllable = 0.35 + 0.65 * std::abs(std::sin(x / 61) * std::cos(x / 23));
+        const double syllable = 0.35 + 0.65 * std::abs(std::sin(x / 61.0) * std::cos(x / 23.0));
         const double height = 6 + 150 * phrase * syllable;
         painter.setPen(QPen(QColor(255, 205, 140, 120), 5, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(QPointF(x, lamp.y() - height), QPointF(x, lamp.y() + height));
@@ -55,7 +55,8 @@ void paintStand(QPainter& painter) {
 
 void paintGrille(QPainter& painter) {
     painter.setPen(QPen(QColor(60, 46, 50), 7));
-    for (double y = head.top() + 34; y < head.bottom() - 120; y += 26) {
+    for (int row = 0; row < 7; ++row) {
+        const double y = head.top() + 34 + 26 * row;
         painter.drawLine(QPointF(head.left(), y), QPointF(head.right(), y));
     }
     painter.setPen(QPen(QColor(60, 46, 50), 10));

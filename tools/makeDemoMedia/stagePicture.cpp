@@ -25,8 +25,8 @@ void paintFloor(QPainter& painter) {
     boards.setStops({{0, QColor(104, 58, 34)}, {1, QColor(44, 22, 16)}});
     painter.fillRect(QRectF(0, floorLine, pictureWidth, pictureHeight - floorLine), boards);
     painter.setPen(QPen(QColor(30, 14, 10, 150), 3));
-    for (double x = -1800; x <= 1800; x += 150) {
-        painter.drawLine(QPointF(600 + x / 2, floorLine), QPointF(600 + x, pictureHeight));
+    for (int x = -1800; x <= 1800; x += 150) {
+        painter.drawLine(QPointF(600 + x / 2.0, floorLine), QPointF(600 + x, pictureHeight));
     }
 }
 
@@ -99,7 +99,8 @@ void paintGuitar(QPainter& painter) {
     painter.drawEllipse(body + QPointF(0, 0), 44, 44);
     painter.fillRect(QRectF(body + QPointF(-62, 108), QSizeF(124, 22)), QColor(56, 28, 20));
     painter.setPen(QPen(QColor(250, 240, 220, 210), 1.6));
-    for (double x = -12.5; x <= 12.5; x += 5) {
+    for (int string = 0; string < 6; ++string) {
+        const double x = -12.5 + 5 * string;
         painter.drawLine(body + QPointF(x, -480), body + QPointF(x, 116));
     }
 }
