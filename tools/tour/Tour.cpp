@@ -27,10 +27,18 @@ Tour::Tour(const QString& folder)
     require(report_.open(QIODevice::WriteOnly), QStringLiteral("the report can be written"));
 }
 
+QString Tour::nextPicture(const QString& name) {
+    return QStringLiteral("%1/screens/%2-%3.png").arg(folder_).arg(++pictures_, 2, 10, QChar(u'0')).arg(name);
+}
+
 void Tour::picture(Form& form, const QString& name) {
     QCoreApplication::processEvents();
-    const QString file = QStringLiteral("screens/%1-%2.png").arg(++pictures_, 2, 10, QChar(u'0')).arg(name);
-    require(form.window().grab().save(folder_ + u'/' + file), QStringLiteral("a picture of ") + name);
+    require(form.window().grab().save(nextPicture(name)), QStringLiteral("a picture of ") + name);
+}
+
+void Tour::picture(const QByteArray& png, const QString& name) {
+    QFile file(nextPicture(name));
+    require(file.open(QIODevice::WriteOnly) && file.write(png) == png.size(), QStringLiteral("a picture of ") + name);
 }
 
 void Tour::say(const QString& line) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QFile>
 #include <QString>
 
@@ -21,6 +22,9 @@ class Tour {
     /// A picture of a form as it stands: screens/NN-name.png, numbered in the order of the walk.
     void picture(Form& form, const QString& name);
 
+    /// The same of something that made its own picture.
+    void picture(const QByteArray& png, const QString& name);
+
     /// A line of the report, on standard output too.
     void say(const QString& line);
 
@@ -34,6 +38,8 @@ class Tour {
     QString relative(const QString& path) const;
 
   private:
+    QString nextPicture(const QString& name);
+
     QString folder_;
     CrankedStudio studio_;
     QFile report_;

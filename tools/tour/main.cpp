@@ -26,6 +26,7 @@ void walk(const QString& folder) {
     recordBacktrack(tour);
     singVoices(tour);
     makeDemo(tour);
+    showSite(tour);
     tour.require(!complained, QStringLiteral("no complaint on the way"));
     tour.say(QStringLiteral("tour: ok"));
 }

@@ -1,8 +1,5 @@
-#include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QImage>
-#include <QPainter>
 
 #include "democd/FrmDemoCD.h"
 #include "platform/files/App.h"
@@ -15,22 +12,9 @@ namespace {
 
 constexpr int finalMix = 4;
 
-/// A sun of that colour over the evening sky, as a stand-in for a photograph.
-QString photograph(const QString& name, const QColor& sun) {
-    QImage image(640, 420, QImage::Format_RGB32);
-    QPainter painter(&image);
-    QLinearGradient sky(0, 0, 0, image.height());
-    sky.setColorAt(0, QColor(24, 30, 66));
-    sky.setColorAt(1, QColor(196, 106, 62));
-    painter.fillRect(image.rect(), sky);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(sun);
-    painter.drawEllipse(QPointF(430, 250), 70, 70);
-    painter.fillRect(0, 330, image.width(), 90, QColor(16, 18, 28));
-    const QString file = App::Path() + u'/' + name;
-    image.save(file);
-    return file;
+/// A picture that ships with the program, as a stand-in for a photograph.
+QString photograph(const char* name) {
+    return App::Path() + QStringLiteral("/DemoCD_Example/Demo1/") + QString::fromLatin1(name);
 }
 
 void fillProject(Tour& tour) {
@@ -58,12 +42,12 @@ void chooseSong(Tour& tour) {
 
 void choosePhotos(Tour& tour) {
     frmDemoCD->TabStrip1.setSelectedItem(3);
-    tour.desk().willChoose(photograph(QStringLiteral("evening.jpg"), QColor(250, 200, 110)));
+    tour.desk().willChoose(photograph("harbour.jpg"));
     frmDemoCD->cmdOpenPhoto[1].setValue(true);
-    frmDemoCD->txtPhotoDesc[1].setText(QStringLiteral("The evening before the first take"));
-    tour.desk().willChoose(photograph(QStringLiteral("morning.jpg"), QColor(255, 240, 210)));
+    frmDemoCD->txtPhotoDesc[1].setText(QStringLiteral("The evening before the first take."));
+    tour.desk().willChoose(photograph("stage.jpg"));
     frmDemoCD->cmdOpenPhoto[2].setValue(true);
-    frmDemoCD->txtPhotoDesc[2].setText(QStringLiteral("The morning after the last one"));
+    frmDemoCD->txtPhotoDesc[2].setText(QStringLiteral("Where it will be played first."));
     tour.picture(*frmDemoCD, QStringLiteral("demo-photos"));
 }
 

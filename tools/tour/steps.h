@@ -11,5 +11,6 @@ void chooseBacktrack(Tour& tour);
 void recordBacktrack(Tour& tour);
 void singVoices(Tour& tour);
 void makeDemo(Tour& tour);
+void showSite(Tour& tour);
 
 }  // namespace lyrebrook
