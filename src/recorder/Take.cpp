@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "platform/base/Numbers.h"
+#include "platform/sound/SoundSystem.h"
+#include "platform/sound/SoundTransaction.h"
 #include "recorder/soundBuffers.h"
 #include "recorder/waveLength.h"
 
@@ -55,12 +57,15 @@ void Take::placeAtCursor(const Tracks& tracks) {
 }
 
 void Take::punchIn(const Tracks& tracks, int armedTrack) {
+    placeAtCursor(tracks);
+    const SoundTransaction together(SoundSystem::engine());
     tracks.trackBuffer(armedTrack).Stop();
-    do {  // when the card went on between the look at the cursor and the start, both are done anew
-        recordBuffer_->Stop();
-        placeAtCursor(tracks);
-        recordBuffer_->Start(0);
-    } while (tracks.playCursor(tracks.longestTrack()) != recordStart_);
+    recordBuffer_->startBeside(tracks.trackBuffer(tracks.longestTrack()));
+}
+
+/// The card may have gone on between a look at the cursor and the start; it tells where it really was.
+std::int32_t Take::recordStart() const {
+    return recordBuffer_ ? recordBuffer_->startedBeside().value_or(recordStart_) : recordStart_;
 }
 
 std::int32_t Take::capturedBytes() const {
@@ -75,17 +80,18 @@ std::unique_ptr<DirectSoundSecondaryBuffer8> Take::GetSoundBufferFromCapture(Dir
     stop();
     const std::int32_t captured = capturedBytes();
     if (captured == 0) return nullptr;
-    const std::int32_t takeEnd = toInt32(static_cast<double>(recordStart_) + captured);
+    const std::int32_t start = recordStart();
+    const std::int32_t takeEnd = toInt32(static_cast<double>(start) + captured);
     const std::int32_t newLength = std::max(takeEnd, getWaveLength(track));
     auto merged = ds.CreateSoundBuffer(trackBufferDescription(newLength));
     Splice splice(*merged);
     if (tracks.trackExists(track)) {
         const DirectSoundSecondaryBuffer8& old = tracks.trackBuffer(track);
         const std::int32_t oldEnd = std::min(tracks.soundBytes(track), newLength);
-        splice.copy(old, {0, std::min(recordStart_, oldEnd)}, 0);
+        splice.copy(old, {0, std::min(start, oldEnd)}, 0);
         splice.copy(old, {takeEnd, oldEnd}, takeEnd);
     }
-    splice.copy(*recordBuffer_, {0, captured}, recordStart_);
+    splice.copy(*recordBuffer_, {0, captured}, start);
     return merged;
 }
 

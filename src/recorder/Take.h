@@ -19,12 +19,12 @@ class Take {
     /// The take's place is where the longest track stands.
     void placeAtCursor(const Tracks& tracks);
 
-    /// Punches in while the song runs: silences the armed track, then starts the capture; the frame on which it starts
-    /// is the take's place.
+    /// Punches in while the song runs: silences the armed track and starts the capture, on one frame. Where the longest
+    /// track stands on that frame is the take's place.
     void punchIn(const Tracks& tracks, int armedTrack);
 
     DirectSoundCaptureBuffer8* recordBuffer() const { return recordBuffer_.get(); }
-    std::int32_t recordStart() const { return recordStart_; }
+    std::int32_t recordStart() const;
     std::int32_t capturedBytes() const;
 
     /// The track with the take laid over it: the take's bytes are the take's, all others are the old ones, and what was

@@ -17,6 +17,8 @@ class BufferVoice final : public EngineUnit {
     void apply(const EngineCommand& command, Frames at) noexcept override;
     void mix(const MixBlock& block) noexcept override;
 
+    Frames cursor() const noexcept override { return cursor_; }
+
     UnitState state() const noexcept { return published_.load(); }
 
   private:

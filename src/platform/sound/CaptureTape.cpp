@@ -17,6 +17,7 @@ void CaptureTape::apply(const EngineCommand& command, Frames at) noexcept {
         looping_ = command.looping;
         origin_ = at;
         laid_ = 0;
+        if (command.beside != nullptr) besideAtStart_.store({ticket_, true, command.beside->cursor()});
     }
     publish();
 }

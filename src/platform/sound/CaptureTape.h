@@ -23,6 +23,9 @@ class CaptureTape final : public EngineUnit {
     bool capturing() const noexcept override { return running_; }
 
     UnitState state() const noexcept { return published_.load(); }
+
+    /// Of the last start that had a unit beside it: where that unit stood.
+    UnitState stoodBeside() const noexcept { return besideAtStart_.load(); }
     Frames length() const noexcept { return static_cast<Frames>(frames_.size()); }
 
     /// Copies bytes from `start` on, as many as `bytes` holds; the range lies inside the tape.
@@ -41,6 +44,7 @@ class CaptureTape final : public EngineUnit {
     Frames laid_ = 0;
     std::uint32_t ticket_ = 0;
     PublishedState published_;
+    PublishedState besideAtStart_;
 };
 
 }  // namespace lyrebrook

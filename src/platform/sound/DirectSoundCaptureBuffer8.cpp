@@ -1,6 +1,7 @@
 #include "platform/sound/DirectSoundCaptureBuffer8.h"
 
 #include "platform/sound/CaptureTape.h"
+#include "platform/sound/DirectSoundSecondaryBuffer8.h"
 #include "platform/sound/bufferChecks.h"
 
 namespace lyrebrook {
@@ -17,14 +18,33 @@ DirectSoundCaptureBuffer8::~DirectSoundCaptureBuffer8() {
 }
 
 void DirectSoundCaptureBuffer8::Start(std::int32_t flags) {
+    start({.looping = (flags & DSCBSTART_LOOPING) != 0});
+}
+
+void DirectSoundCaptureBuffer8::startBeside(const DirectSoundSecondaryBuffer8& playing) {
+    start({.beside = &playing.unit()});
+}
+
+void DirectSoundCaptureBuffer8::start(EngineCommand command) {
     if (running()) return;
     started_ = true;
-    engine_->post(
-        {.unit = tape_.get(), .verb = Verb::start, .looping = (flags & DSCBSTART_LOOPING) != 0, .ticket = ++ticket_});
+    looping_ = command.looping;
+    startTicket_ = ++ticket_;
+    command.unit = tape_.get();
+    command.verb = Verb::start;
+    command.ticket = startTicket_;
+    engine_->post(command);
+}
+
+std::optional<std::int32_t> DirectSoundCaptureBuffer8::startedBeside() const {
+    const UnitState beside = tape_->stoodBeside();
+    if (!beside.running || beside.ticket != startTicket_) return std::nullopt;
+    return toBytes(beside.position);
 }
 
 void DirectSoundCaptureBuffer8::Stop() {
     if (!started_) return;
+    if (!looping_) engine_->awaitInput();
     stoppedAt_ = position();
     started_ = false;
     engine_->post({.unit = tape_.get(), .verb = Verb::stop, .ticket = ++ticket_});

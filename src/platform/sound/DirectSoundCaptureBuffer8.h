@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 
 #include "platform/sound/BufferDescriptions.h"
@@ -11,6 +12,7 @@
 namespace lyrebrook {
 
 class CaptureTape;
+class DirectSoundSecondaryBuffer8;
 
 /// Sound from the card's input, laid down from the frame that sounded when `Start` took effect. The program's thread
 /// only; may be destroyed while it runs. All its memory is taken, and touched, when it is made. What the input lost is
@@ -25,7 +27,13 @@ class DirectSoundCaptureBuffer8 {
     /// From the start of the buffer: 0 runs once and stops when full, 1 loops. Does nothing while running.
     void Start(std::int32_t flags);
 
-    /// Sound that has not arrived by now is not waited for; the cursor stays.
+    /// The same, and keeps where a playing buffer stood on the very frame that this one starts with.
+    void startBeside(const DirectSoundSecondaryBuffer8& playing);
+
+    /// Byte of that buffer; nothing before the card has come to the start, and where there was no such buffer.
+    std::optional<std::int32_t> startedBeside() const;
+
+    /// The cursor stays. One that runs once first waits, for a moment, for what has sounded but not arrived yet.
     void Stop();
 
     /// Both cursors tell the byte up to which sound may be read; a full buffer that ran once tells its size.
@@ -35,6 +43,7 @@ class DirectSoundCaptureBuffer8 {
     void ReadBuffer(std::int32_t start, std::int32_t size, std::span<std::byte> buffer, std::int32_t flags) const;
 
   private:
+    void start(EngineCommand command);
     Frames position() const;
     bool running() const;
 
@@ -42,6 +51,8 @@ class DirectSoundCaptureBuffer8 {
     std::unique_ptr<CaptureTape> tape_;
     std::uint32_t ticket_ = 0;
     bool started_ = false;
+    bool looping_ = false;
+    std::uint32_t startTicket_ = 0;
     Frames stoppedAt_ = 0;
 };
 

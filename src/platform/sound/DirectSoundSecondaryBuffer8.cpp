@@ -140,6 +140,10 @@ void DirectSoundSecondaryBuffer8::setEffect(std::shared_ptr<SoundEffect> effect)
     reverb_.reset();
 }
 
+const EngineUnit& DirectSoundSecondaryBuffer8::unit() const {
+    return *voice_;
+}
+
 DirectSoundSecondaryBuffer8::Shadow DirectSoundSecondaryBuffer8::state() const {
     const UnitState told = voice_->state();
     if (told.ticket != ticket_) return shadow_;

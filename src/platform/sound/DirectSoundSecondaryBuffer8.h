@@ -67,6 +67,8 @@ class DirectSoundSecondaryBuffer8 {
     /// What `SetFX` does, for any effect: only while stopped, else RuntimeError; null takes it off.
     void setEffect(std::shared_ptr<SoundEffect> effect);
 
+    const EngineUnit& unit() const;
+
   private:
     struct Shadow {
         bool playing = false;

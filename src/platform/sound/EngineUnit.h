@@ -25,7 +25,7 @@ struct StereoGain {
 enum class Verb : std::uint8_t { attach, detach, start, stop, moveTo, setGain, setData, setEffect };
 
 /// One order from the program's thread to a unit on the card's thread. Plain data: what it points to is kept alive by
-/// the program's thread until the engine has applied the order that replaces it.
+/// the program's thread until the engine has applied the order that replaces it; `beside` need only outlive its own.
 struct EngineCommand {
     EngineUnit* unit = nullptr;
     Verb verb = Verb::attach;
@@ -35,6 +35,7 @@ struct EngineCommand {
     StereoGain gain = {};
     const SoundData* data = nullptr;
     SoundEffect* effect = nullptr;
+    const EngineUnit* beside = nullptr;
 };
 
 /// A step of the timeline being mixed. `scratch` is lent for the length of the call and as long as the buses.
@@ -69,6 +70,9 @@ class EngineUnit {
     virtual void capture(Frames, std::span<const StereoFrame>) noexcept {}
     virtual void settle(const Progress&) noexcept {}
     virtual bool capturing() const noexcept { return false; }
+
+    /// Where the next frame to be mixed is taken from.
+    virtual Frames cursor() const noexcept { return 0; }
 
   private:
     friend class EngineUnitList;

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "platform/sound/SoundFormat.h"
+#include "platform/sound/cards/CardNotice.h"
 
 namespace lyrebrook {
 
@@ -60,6 +61,12 @@ class SoundCard {
 
     /// The mixer of the card, which may outlive it; null when it has none.
     virtual std::shared_ptr<MixerBackend> mixer() { return nullptr; }
+
+    /// What a person should be told of it at present.
+    virtual CardNotice notice() const { return CardNotice::none; }
+
+    /// Time goes on while the program's thread waits.
+    virtual bool runsByItself() const { return true; }
 };
 
 }  // namespace lyrebrook

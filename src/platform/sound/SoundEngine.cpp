@@ -1,6 +1,8 @@
 #include "platform/sound/SoundEngine.h"
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 #include "platform/base/Check.h"
 #include "platform/sound/RealTimeScope.h"
@@ -57,6 +59,18 @@ void SoundEngine::closeInput() {
     if (--inputUsers_ == 0 && card_ != nullptr) card_->closeInput();
 }
 
+void SoundEngine::awaitInput() const {
+    if (card_ == nullptr || !card_->runsByItself() || card_->notice() != CardNotice::none) return;
+    constexpr std::chrono::milliseconds longest{300};
+    constexpr std::chrono::milliseconds look{2};
+    // What was told to have sounded is a turn of the card old.
+    const Frames sounded = soundedFrames_.load() + static_cast<Frames>(mixBlockFrames);
+    const auto end = std::chrono::steady_clock::now() + longest;
+    while (capturedFrames_.load() < sounded && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(look);
+    }
+}
+
 void SoundEngine::publishBatch() {
     committed_.store(posted_, std::memory_order_release);
     if (card_ == nullptr) applyCommands();
@@ -111,6 +125,7 @@ void SoundEngine::applyCommands() noexcept {
 void SoundEngine::framesSounded(Frames upTo) noexcept {
     const RealTimeScope scope;
     progress_.sounded = upTo;
+    soundedFrames_.store(upTo, std::memory_order_release);
     settle();
 }
 
@@ -118,6 +133,7 @@ void SoundEngine::framesCaptured(Frames soundingAt, std::span<const StereoFrame>
     const RealTimeScope scope;
     units_.forEach([&](EngineUnit& unit) { unit.capture(soundingAt, frames); });
     progress_.captured = std::max(progress_.captured, soundingAt + static_cast<Frames>(frames.size()));
+    capturedFrames_.store(progress_.captured, std::memory_order_release);
     settle();
 }
 

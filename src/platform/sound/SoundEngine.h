@@ -43,6 +43,10 @@ class SoundEngine final : private SoundCardClient {
     void openInput();
     void closeInput();
 
+    /// Returns when what has sounded by now could be captured, at once or a moment later. Input that doesn't come by
+    /// then isn't waited for.
+    void awaitInput() const;
+
     /// Index of the next frame to be mixed, as last told by the card's thread.
     Frames mixedFrames() const { return mixedFrames_.load(std::memory_order_acquire); }
 
@@ -74,6 +78,8 @@ class SoundEngine final : private SoundCardClient {
     std::atomic<std::uint64_t> committed_{0};
     std::atomic<std::uint64_t> applied_{0};
     std::atomic<Frames> mixedFrames_{0};
+    std::atomic<Frames> soundedFrames_{0};
+    std::atomic<Frames> capturedFrames_{0};
 
     // The card's thread.
     EngineUnitList units_;

@@ -1,3 +1,7 @@
+#include <functional>
+#include <thread>
+#include <utility>
+
 #include "SoundDesk.h"
 #include "platform/base/RuntimeError.h"
 
@@ -70,6 +74,28 @@ TEST(Capture, StartBeginsAnewButNotWhileTheTapeRuns) {
     EXPECT_EQ(cursors(*take).lWrite, toBytes(10));
 }
 
+TEST(Capture, TellsWhereAnotherBufferStoodOnItsFirstFrame) {
+    SoundDesk desk;
+    const auto take = desk.capture(1000);
+    const auto music = desk.buffer(ramp(3000));
+    music->Play(0);
+    desk.card->advance(200);
+    {
+        const SoundTransaction together(SoundSystem::engine());
+        take->startBeside(*music);
+        desk.card->advance(100);
+    }
+    EXPECT_EQ(take->startedBeside(), std::nullopt) << "the card hasn't come to it";
+    desk.card->advance(500);
+    EXPECT_EQ(take->startedBeside(), toBytes(300));
+    EXPECT_EQ(captured(*take), part(ramp(3000), 300, 500));
+    take->Stop();
+    EXPECT_EQ(take->startedBeside(), toBytes(300));
+    take->Start(0);
+    desk.card->advance(1);
+    EXPECT_EQ(take->startedBeside(), std::nullopt) << "of an earlier start";
+}
+
 TEST(Capture, ALoopStartsOverAtItsEnd) {
     SoundDesk desk;
     const auto meter = desk.capture(1000);
@@ -135,8 +161,18 @@ class ScriptedCard final : public SoundCard {
         client_->mixFrames({wave, synth});
     }
     void deliver(Frames at, const Sound& frames) { client_->framesCaptured(at, frames); }
+    void sound(Frames upTo) { client_->framesSounded(upTo); }
+
+    /// Happens on the card's thread as soon as somebody asks whether to wait for the card.
+    void willDo(std::function<void()> act) { act_ = std::move(act); }
+    bool runsByItself() const override {
+        if (act_) thread_ = std::jthread(std::exchange(act_, {}));
+        return true;
+    }
 
   private:
+    mutable std::function<void()> act_;
+    mutable std::jthread thread_;
     SoundCardClient* client_ = nullptr;
 };
 
@@ -159,6 +195,22 @@ TEST(Capture, EveryDeliveryGoesWhereItsIndexSays) {
     EXPECT_EQ(cursors(take).lWrite, toBytes(100));
     card.deliver(1145, Sound(1, {700, 700}));  // a lap later, after a hole
     EXPECT_EQ(part(whole(loop, 10), 0, 6), silence(5) + Sound(1, {700, 700}));
+}
+
+TEST(Capture, StopWaitsForWhatHasSoundedAndIsOnItsWay) {
+    ScriptedCard card;
+    const auto engine = std::make_shared<SoundEngine>(card);
+    DirectSoundCaptureBuffer8 take(engine, 5000);
+    take.Start(0);
+    card.play(4000);
+    card.deliver(0, ramp(100));
+    card.sound(1000);
+    card.willDo([&card] {
+        card.deliver(100, ramp(500, 101));
+        card.deliver(600, ramp(1400, 601));
+    });
+    take.Stop();
+    EXPECT_EQ(part(captured(take), 0, 1000), ramp(1000));
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <thread>
 
 #include "platform/sound/SoundCard.h"
-#include "platform/sound/cards/CardNotice.h"
 #include "platform/sound/cards/pulse/RecordingSource.h"
 
 namespace lyrebrook {
@@ -36,7 +35,7 @@ class PulseCard final : public SoundCard {
     /// What is recorded from now on; the card's output unless told otherwise.
     void selectSource(const RecordingSource& source);
 
-    CardNotice notice() const;
+    CardNotice notice() const override;
 
     /// Times that the server had nothing to play because sound came too late.
     std::uint32_t underruns() const;

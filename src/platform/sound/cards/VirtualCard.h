@@ -35,10 +35,15 @@ class VirtualCard final : public SoundCard {
     void openInput() override { inputOpen_.store(true); }
     void closeInput() override { inputOpen_.store(false); }
     std::int32_t outputCount() const override { return outputCount_; }
+    CardNotice notice() const override { return notice_; }
+    bool runsByItself() const override { return clock_ == Clock::realTime; }
     bool inputOpen() const { return inputOpen_.load(); }
 
     /// Outputs to report; none unless told otherwise.
     void setOutputCount(std::int32_t count) { outputCount_ = count; }
+
+    /// Loss to report; the sound goes on regardless.
+    void setNotice(CardNotice notice) { notice_ = notice; }
 
     std::shared_ptr<MixerBackend> mixer() override;
 
@@ -75,6 +80,7 @@ class VirtualCard final : public SoundCard {
     Clock clock_;
     SoundCardClient* client_ = nullptr;
     std::int32_t outputCount_ = 0;
+    CardNotice notice_ = CardNotice::none;
     Listener listener_;
     std::shared_ptr<CardLines> lines_ = std::make_shared<CardLines>();
     std::atomic<bool> inputOpen_{false};
