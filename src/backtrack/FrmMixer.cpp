@@ -13,6 +13,7 @@
 #include "platform/sound/SoundTransaction.h"
 #include "recorder/FrmComposer.h"
 #include "recorder/levelBarPictures.h"
+#include "recorder/noticeLine.h"
 #include "recorder/soundBuffers.h"
 #include "recorder/soundDevices.h"
 #include "shell/FrmIntro.h"
@@ -272,6 +273,7 @@ void FrmMixer::Timer1_Timer() {
         bars_.UpdateVU(*recordBuffer_);
     }
     showLevels(bars_, leftVU, rightVU);
+    showNotice(notice_, recordBuffer_.get(), lblNotice);
     if (playing) showState();
 }
 

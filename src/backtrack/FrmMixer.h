@@ -15,6 +15,7 @@
 #include "platform/forms/Slider.h"
 #include "platform/forms/Timer.h"
 #include "recorder/LevelBars.h"
+#include "recorder/SoundNotice.h"
 
 class QBoxLayout;
 
@@ -35,6 +36,7 @@ class FrmMixer final : public Form, private DirectXEvent8 {
 
     Label lblRecording;
     Label lblHMS;
+    Label lblNotice;
     CommandButton cmdPlay, cmdStop, cmdListen;
     CheckBox chkLoop;
     CheckBox checkSource;
@@ -93,6 +95,7 @@ class FrmMixer final : public Form, private DirectXEvent8 {
     QString backtrackPath_;
     TrackMode trackMode_ = TrackMode::backTrack;
     LevelBars bars_;
+    SoundNotice notice_;
     Event<> segmentMessage_;  ///< what the performance tells, as an event of the form
 };
 

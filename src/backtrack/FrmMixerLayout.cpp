@@ -4,6 +4,7 @@
 
 #include "backtrack/FrmMixer.h"
 #include "recorder/levelBarPictures.h"
+#include "recorder/noticeLine.h"
 #include "recorder/recordingPlate.h"
 
 namespace lyrebrook {
@@ -26,6 +27,7 @@ FrmMixer::FrmMixer()
     : Form(QStringLiteral("Backtrack Recorder")),
       lblRecording(content(), QStringLiteral("S T O P P E D")),
       lblHMS(content(), QStringLiteral("00:00.00")),
+      lblNotice(content()),
       cmdPlay(content(), QStringLiteral("Record")),
       cmdStop(content(), QStringLiteral("Stop")),
       cmdListen(content(), QStringLiteral("Listen")),
@@ -84,6 +86,8 @@ void FrmMixer::layOut() {
     column->addLayout(layOutTransport());
     column->addLayout(source);
     column->addLayout(middle);
+    makeNoticeLine(lblNotice);
+    column->addWidget(lblNotice);
     column->addLayout(bottom);
     window().layout()->setSizeConstraint(QLayout::SetFixedSize);  // nothing here gains by more room
     QWidget::setTabOrder(cbEnableVU, chkSynth);

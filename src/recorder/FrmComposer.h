@@ -23,6 +23,7 @@
 #include "platform/forms/Timer.h"
 #include "recorder/LevelBars.h"
 #include "recorder/Playback.h"
+#include "recorder/SoundNotice.h"
 #include "recorder/Take.h"
 #include "recorder/TakeTable.h"
 #include "recorder/TrackView.h"
@@ -66,6 +67,7 @@ class FrmComposer final : public Form {
     Frame Frame4;
     Label lblHMS;
     Label lblRecording;
+    Label lblNotice;
 
     PictureBox imgContainerA, imgSliderA, imgContainerB, imgSliderB;
     ControlArray<Shape> shpWaveform;
@@ -175,6 +177,7 @@ class FrmComposer final : public Form {
     TakeTable takes_;
     Transport transport_;
     LevelBars bars_;
+    SoundNotice notice_;
     TrackView view_{{}, trackCount, 1, 0};
     float zoom_ = 1;
     float masterScale_ = 1;

@@ -4,6 +4,7 @@
 
 #include "recorder/FrmComposer.h"
 #include "recorder/levelBarPictures.h"
+#include "recorder/noticeLine.h"
 #include "recorder/recordingPlate.h"
 #include "recorder/transportIcons.h"
 
@@ -116,6 +117,7 @@ FrmComposer::FrmComposer()
       Frame4(content(), QStringLiteral("Duration: (Min:Sec.ss)")),
       lblHMS(Frame4, QStringLiteral("00:00.00")),
       lblRecording(content(), QStringLiteral("R E C O R D I N G")),
+      lblNotice(content()),
       imgContainerA(content()),
       imgSliderA(imgContainerA.widget()),
       imgContainerB(imgSliderA.widget()),
@@ -285,7 +287,8 @@ QBoxLayout* FrmComposer::layOutBottom() {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(margin, 0, margin, 0);
     row->addWidget(Command1);
-    row->addStretch(1);
+    makeNoticeLine(lblNotice);
+    row->addWidget(lblNotice, 1);
     row->setSpacing(8);
     row->addWidget(cmdHelp);
     row->addWidget(btnEnd);

@@ -1,6 +1,7 @@
 #include "platform/forms/Desktop.h"
 #include "recorder/FrmComposer.h"
 #include "recorder/levelBarPictures.h"
+#include "recorder/noticeLine.h"
 #include "recorder/recorderMemory.h"
 
 namespace lyrebrook {
@@ -16,6 +17,7 @@ void FrmComposer::Timer1_Timer() {
     bars_.DecayVU();
     if (!recording() && vuBuffer_) bars_.UpdateVU(*vuBuffer_);
     showLevels(bars_, leftVU, rightVU);
+    showNotice(notice_, recording() ? take_.recordBuffer() : nullptr, lblNotice);
     if (!playing()) return;
     showState();
     updateCursor();

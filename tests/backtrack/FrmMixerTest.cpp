@@ -130,6 +130,19 @@ TEST_F(BacktrackRecorder, RecordsAnExternalSourceUntilStopWithTheBacktrackSilent
     EXPECT_EQ(recorded(), part(singer, 0, 2 * framesPerSecond));
 }
 
+TEST_F(BacktrackRecorder, TellsThatNothingArrivesUntilItDoesOrTheRecordingEnds) {
+    openWithWave(Sound(20 * framesPerSecond));
+    crank(3s);
+    EXPECT_EQ(frmMixer->lblNotice.Caption(), QString());
+    frmMixer->checkSource.setValue(1);
+    clickRecord();
+    crank(2100ms);
+    EXPECT_EQ(frmMixer->lblNotice.Caption(), QStringLiteral("No sound is arriving from the recording source."));
+    frmMixer->cmdStop.setValue(true);
+    crank(100ms);
+    EXPECT_EQ(frmMixer->lblNotice.Caption(), QString());
+}
+
 TEST_F(BacktrackRecorder, TellsARecordingWithoutSoundAndKeepsTheEarlierOne) {
     giveWave(QStringLiteral("My Song_1.wav"), ramp(500));
     openWithWave(ramp(framesPerSecond));

@@ -99,6 +99,40 @@ TEST_F(Recording, PunchedInWhileTheSongRunsLiesOnTheFrameThatWasPlayed) {
     for (std::size_t i = start; i < echo.size(); ++i) ASSERT_EQ(echo[i].left > 10000, clicks[i].left > 0) << i;
 }
 
+TEST_F(Recording, TellsInALineWhatIsWrongWithTheSoundAndGoesOn) {
+    open();
+    const auto notice = [] { return frmComposer->lblNotice.Caption(); };
+    const QString silence = QStringLiteral("No sound is arriving from the recording source.");
+    clickPlay();
+    crank(3s);
+    EXPECT_EQ(notice(), QString()) << "nobody records";
+    clickRecord();
+    crank(1900ms);
+    EXPECT_EQ(notice(), QString());
+    crank(200ms);
+    EXPECT_EQ(notice(), silence);
+    sings(tone(second, 1));
+    EXPECT_EQ(notice(), QString());
+    crank(2100ms);
+    EXPECT_EQ(notice(), silence);
+    card().setNotice(CardNotice::inputLost);
+    crank(100ms);
+    EXPECT_EQ(notice(), QStringLiteral("The recording source is gone. What was recorded is kept."));
+    card().setNotice(CardNotice::outputLost);
+    crank(100ms);
+    EXPECT_EQ(notice(), QStringLiteral("The sound card is gone. What was recorded is kept."));
+    card().setNotice(CardNotice::none);
+    crank(100ms);
+    EXPECT_EQ(notice(), QStringLiteral("The sound card is back."));
+    crank(5s);
+    EXPECT_EQ(notice(), silence) << "still";
+    EXPECT_TRUE(recording());
+    clickStop();
+    crank(100ms);
+    EXPECT_EQ(notice(), QString());
+    EXPECT_EQ(track(2).size(), heard.size() - second / 10) << "it stopped nothing";
+}
+
 TEST_F(Recording, AClickOnTheTimeLineEndsTheTakeAndMoves) {
     open();
     frmComposer->sLevel[2].setValue(3000);
