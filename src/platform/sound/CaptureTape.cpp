@@ -4,11 +4,9 @@
 #include <atomic>
 #include <cstring>
 
-#include "platform/sound/SoundData.h"
-
 namespace lyrebrook {
 
-CaptureTape::CaptureTape(Frames length) : frames_(silentFrames(length)) {}
+CaptureTape::CaptureTape(Frames length) : memory_(length), frames_(memory_.frames()) {}
 
 void CaptureTape::apply(const EngineCommand& command, Frames at) noexcept {
     ticket_ = command.ticket;
@@ -66,13 +64,29 @@ void CaptureTape::publish() noexcept {
 void CaptureTape::read(std::size_t start, std::span<std::byte> bytes) const noexcept {
     while (!bytes.empty()) {
         const std::size_t inside = start % sizeof(StereoFrame);
-        const std::size_t part = std::min(sizeof(StereoFrame) - inside, bytes.size());
-        const std::atomic_ref place(frames_[start / sizeof(StereoFrame)]);
-        const StereoFrame frame = place.load(std::memory_order_relaxed);
-        std::memcpy(bytes.data(), reinterpret_cast<const std::byte*>(&frame) + inside, part);
+        const std::size_t place = start / sizeof(StereoFrame);
+        std::size_t part = bytes.size() / sizeof(StereoFrame) * sizeof(StereoFrame);
+        if (inside == 0 && part > 0) {
+            readWhole(place, bytes.first(part));
+        } else {
+            part = std::min(sizeof(StereoFrame) - inside, bytes.size());
+            const StereoFrame frame = at(place);
+            std::memcpy(bytes.data(), reinterpret_cast<const std::byte*>(&frame) + inside, part);
+        }
         bytes = bytes.subspan(part);
         start += part;
     }
+}
+
+void CaptureTape::readWhole(std::size_t first, std::span<std::byte> bytes) const noexcept {
+    for (std::size_t i = 0; i < bytes.size() / sizeof(StereoFrame); ++i) {
+        const StereoFrame frame = at(first + i);
+        std::memcpy(bytes.data() + i * sizeof frame, &frame, sizeof frame);
+    }
+}
+
+StereoFrame CaptureTape::at(std::size_t place) const noexcept {
+    return std::atomic_ref(frames_[place]).load(std::memory_order_relaxed);
 }
 
 }  // namespace lyrebrook

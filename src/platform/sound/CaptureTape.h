@@ -2,9 +2,9 @@
 
 #include <cstddef>
 #include <span>
-#include <vector>
 
 #include "platform/sound/EngineUnit.h"
+#include "platform/sound/SoundMemory.h"
 #include "platform/sound/UnitState.h"
 
 namespace lyrebrook {
@@ -35,9 +35,12 @@ class CaptureTape final : public EngineUnit {
     void lay(Frames place, std::span<const StereoFrame> frames) noexcept;
     void fillUpTo(Frames place) noexcept;
     void put(Frames place, StereoFrame frame) noexcept;
+    void readWhole(std::size_t first, std::span<std::byte> bytes) const noexcept;
+    StereoFrame at(std::size_t place) const noexcept;
     void publish() noexcept;
 
-    mutable std::vector<StereoFrame> frames_;  // reading frame by frame needs references that could also write
+    SoundMemory memory_;
+    std::span<StereoFrame> frames_;  // of the memory
     bool running_ = false;
     bool looping_ = false;
     Frames origin_ = 0;

@@ -16,7 +16,7 @@ void DirectSound8::SetCooperativeLevel(std::int64_t, std::int32_t level) {
 std::unique_ptr<DirectSoundSecondaryBuffer8> DirectSound8::CreateSoundBuffer(const DSBUFFERDESC& description) {
     requireTrackFormat(description.fxFormat);
     const Frames length = framesToHold(requireSize(description.lBufferBytes));
-    return std::make_unique<DirectSoundSecondaryBuffer8>(engine_, std::make_shared<SoundData>(silentFrames(length)));
+    return std::make_unique<DirectSoundSecondaryBuffer8>(engine_, std::make_shared<SoundData>(SoundMemory(length)));
 }
 
 std::unique_ptr<DirectSoundSecondaryBuffer8> DirectSound8::CreateSoundBufferFromFile(const std::filesystem::path& path,

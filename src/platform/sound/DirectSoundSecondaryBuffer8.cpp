@@ -17,9 +17,9 @@ namespace {
     throw RuntimeError(RuntimeErrorNumber::invalidProcedureCall, description);
 }
 
-std::vector<StereoFrame> copyOf(const SoundData& data) {
-    auto copy = silentFrames(data.length());
-    std::ranges::copy(data.frames(), copy.begin());
+SoundMemory copyOf(const SoundData& data) {
+    SoundMemory copy(data.length());
+    std::ranges::copy(data.frames(), copy.frames().begin());
     return copy;
 }
 

@@ -1,9 +1,6 @@
 #include "platform/sound/SoundData.h"
 
 #include <algorithm>
-#include <new>
-
-#include "platform/base/RuntimeError.h"
 
 namespace lyrebrook {
 namespace {
@@ -14,15 +11,7 @@ constexpr Frames framesPerPage = 4096 / bytesPerFrame;
 
 }  // namespace
 
-std::vector<StereoFrame> silentFrames(Frames length) {
-    try {
-        return std::vector<StereoFrame>(static_cast<std::size_t>(length));
-    } catch (const std::bad_alloc&) {
-        throw RuntimeError(RuntimeErrorNumber::outOfMemory, "Out of memory");
-    }
-}
-
-SoundData::SoundData(std::vector<StereoFrame> frames) : memory_(std::move(frames)), frames_(memory_) {}
+SoundData::SoundData(SoundMemory memory) : memory_(std::move(memory)), frames_(memory_.frames()) {}
 
 SoundData::SoundData(std::unique_ptr<MappedFile> file, std::size_t offsetBytes, Frames length)
     : file_(std::move(file)),

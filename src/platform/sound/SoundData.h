@@ -2,23 +2,19 @@
 
 #include <memory>
 #include <span>
-#include <vector>
 
 #include "platform/sound/MappedFile.h"
 #include "platform/sound/SoundFormat.h"
+#include "platform/sound/SoundMemory.h"
 
 namespace lyrebrook {
-
-/// Silence of that length, in memory that has been touched, so that the card's thread never waits for a page of it.
-/// RuntimeError `outOfMemory` when there isn't enough.
-std::vector<StereoFrame> silentFrames(Frames length);
 
 /// The frames of a sound: in memory, or a mapped track file whose pages are copied when written. Shared between the
 /// program's object and what still plays of it. Frames are written on the program's thread only, and only while the
 /// card's thread can't be reading them.
 class SoundData {
   public:
-    explicit SoundData(std::vector<StereoFrame> frames);
+    explicit SoundData(SoundMemory memory);
     SoundData(std::unique_ptr<MappedFile> file, std::size_t offsetBytes, Frames length);
 
     std::span<StereoFrame> frames() { return frames_; }
@@ -31,7 +27,7 @@ class SoundData {
   private:
     void touch(Frames from, Frames to) noexcept;
 
-    std::vector<StereoFrame> memory_;
+    SoundMemory memory_;
     std::unique_ptr<MappedFile> file_;
     std::span<StereoFrame> frames_;
     Frames touchedFrom_ = 0;

@@ -3,12 +3,14 @@
 #include <samplerate.h>
 #include <sndfile.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <memory>
 #include <new>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "platform/base/RuntimeError.h"
 #include "platform/sound/mixing.h"
@@ -75,7 +77,11 @@ class Result {
         toFrames(samples, std::span{frames_}.subspan(before));
     }
 
-    std::vector<StereoFrame> take() { return std::move(frames_); }
+    SoundMemory take() const {
+        SoundMemory memory(static_cast<Frames>(frames_.size()));
+        std::ranges::copy(frames_, memory.frames().begin());
+        return memory;
+    }
 
   private:
     std::vector<StereoFrame> frames_;
@@ -126,7 +132,7 @@ void copy(StereoReader& reader, Result& result) {
 
 }  // namespace
 
-std::vector<StereoFrame> convertSoundFile(const std::filesystem::path& path) try {
+SoundMemory convertSoundFile(const std::filesystem::path& path) try {
     const auto reader = std::make_unique<StereoReader>(path);
     Result result;
     const double ratio = static_cast<double>(framesPerSecond) / reader->rate();

@@ -1,0 +1,38 @@
+#include "platform/sound/SoundMemory.h"
+
+#include <sys/mman.h>
+
+#include <cstdint>
+
+#include "platform/base/RuntimeError.h"
+
+namespace lyrebrook {
+namespace {
+
+constexpr std::uintptr_t pageBytes = 4096;
+
+/// Only advice, and only about whole pages; what lies at the ends of those stays as it is.
+void askForLargePages(std::span<StereoFrame> frames) {
+    const auto begin = reinterpret_cast<std::uintptr_t>(frames.data());
+    const std::uintptr_t first = (begin + pageBytes - 1) / pageBytes * pageBytes;
+    const std::uintptr_t end = (begin + frames.size_bytes()) / pageBytes * pageBytes;
+    if (end > first) ::madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+}
+
+void touch(std::span<StereoFrame> frames) {
+    for (std::size_t i = 0; i < frames.size(); i += pageBytes / sizeof(StereoFrame)) {
+        *static_cast<volatile std::int16_t*>(&frames[i].left) = 0;
+    }
+}
+
+}  // namespace
+
+SoundMemory::SoundMemory(Frames length)
+    : frames_(static_cast<StereoFrame*>(std::calloc(static_cast<std::size_t>(length), sizeof(StereoFrame)))),
+      length_(length) {
+    if (length > 0 && frames_ == nullptr) throw RuntimeError(RuntimeErrorNumber::outOfMemory, "Out of memory");
+    askForLargePages(frames());
+    touch(frames());
+}
+
+}  // namespace lyrebrook
