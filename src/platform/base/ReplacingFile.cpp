@@ -17,6 +17,8 @@
 namespace lyrebrook {
 namespace {
 
+constexpr std::size_t stepBytes = std::size_t{4} << 20;
+
 DiskCalls theDisk;
 DiskCalls* disk = &theDisk;
 
@@ -43,6 +45,12 @@ void refuseUnwritable(const std::filesystem::path& target) {
     if (!S_ISREG(old.st_mode))
         throw fileErrorOf(EISDIR);  // a folder, or a device that a file must not take the place of
     if ((old.st_mode & S_IWUSR) == 0 || ::access(target.c_str(), W_OK) != 0) throw fileErrorOf(EACCES);
+}
+
+/// Has the disk begin with what is written so far, so that it works while the next step is copied and the flush at the
+/// end finds little left. Only advice.
+void startDisk(int file) noexcept {
+    ::sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE);
 }
 
 /// Makes the rename itself durable. The new content is in place by then, so a folder that can't be flushed (some
@@ -87,9 +95,10 @@ ReplacingFile::~ReplacingFile() {
 void ReplacingFile::write(std::span<const std::byte> bytes) {
     CHECK(file_ >= 0);
     while (!bytes.empty()) {
-        const ssize_t written = disk->write(file_, bytes);
+        const ssize_t written = disk->write(file_, bytes.first(std::min(bytes.size(), stepBytes)));
         if (written >= 0) {
             bytes = bytes.subspan(static_cast<std::size_t>(written));
+            if (flush_ == Flush::toDisk && !bytes.empty()) startDisk(file_);
         } else if (errno != EINTR) {
             throw fileErrorOf(errno);
         }
