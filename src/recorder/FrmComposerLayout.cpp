@@ -200,6 +200,7 @@ QBoxLayout* FrmComposer::layOutTransport() {
 
     lblHMS.setLook(Look::readout);
     lblHMS.setAlignment(Qt::AlignCenter);
+    lblHMS.widget()->setFixedSize(lblHMS.widget()->sizeHint());  // a new time doesn't lay out the screen anew
     auto* duration = rowIn(Frame4);
     duration->addWidget(lblHMS);
     Frame4.widget()->setMinimumWidth(178);

@@ -14,6 +14,8 @@ CanvasView::CanvasView(QWidget* container) : QWidget(container) {
 
 void CanvasView::setBackground(const QColor& colour) {
     background_ = colour;
+    // What lies below needn't be painted then, when this moves or changes.
+    setAttribute(Qt::WA_OpaquePaintEvent, colour.isValid() && colour.alpha() == 255);
     update();
 }
 
