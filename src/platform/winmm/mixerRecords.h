@@ -71,7 +71,7 @@ struct MIXERLINE {
     std::int32_t cControls = 0;
     std::array<char, 16> szShortName{};
     std::array<char, 64> szName{};
-    MIXERLINETARGET Target;
+    MIXERLINETARGET Target{};
 };
 static_assert(sizeof(MIXERLINE) == 168);
 

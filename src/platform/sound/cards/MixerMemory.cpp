@@ -19,13 +19,21 @@ std::vector<MixerControlPlace> controlsOf(const MixerLayout& layout) {
 
 }  // namespace
 
-std::vector<MixerControlPlace> MixerMemory::look(const MixerDevice& device) {
+std::vector<MixerControlPlace> MixerMemory::look(const MixerLayout& layout,
+                                                 const std::function<MixerValues(const MixerControlPlace&)>& read) {
     std::vector<MixerControlPlace> changed;
-    for (const MixerControlPlace& place : controlsOf(device.layout())) {
-        auto value = device.read(place);
-        if (std::exchange(known_[place], value) != value) changed.push_back(place);
+    for (const MixerControlPlace& place : controlsOf(layout)) {
+        auto values = read(place);
+        if (!values) continue;
+        if (std::exchange(known_[place], *values) != *values) changed.push_back(place);
     }
     return changed;
+}
+
+MixerValues MixerMemory::last(const MixerControlPlace& place) const {
+    const auto found = known_.find(place);
+    if (found == known_.end()) return std::nullopt;
+    return found->second;
 }
 
 }  // namespace lyrebrook

@@ -2,10 +2,12 @@
 
 #include "platform/sound/cards/pulse/CardLoop.h"
 #include "platform/sound/cards/pulse/CardShare.h"
+#include "platform/sound/cards/pulse/MixerConnection.h"
+#include "platform/sound/cards/pulse/PulseMixer.h"
 
 namespace lyrebrook {
 
-PulseCard::PulseCard() : share_(std::make_unique<CardShare>()), loop_(std::make_unique<CardLoop>(*share_)) {}
+PulseCard::PulseCard() : share_(std::make_shared<CardShare>()), loop_(std::make_unique<CardLoop>(*share_)) {}
 
 PulseCard::~PulseCard() {
     stop();
@@ -39,6 +41,14 @@ void PulseCard::closeInput() {
 
 std::int32_t PulseCard::outputCount() const {
     return share_->outputs.load();
+}
+
+/// Mixers that are open at the same time share a connection, which goes with the last of them.
+std::shared_ptr<MixerBackend> PulseCard::mixer() {
+    auto connection = mixerConnection_.lock();
+    if (connection == nullptr) connection = std::make_shared<MixerConnection>();
+    mixerConnection_ = connection;
+    return std::make_shared<PulseMixer>(connection, std::shared_ptr<CardLines>(share_, &share_->buses), share_);
 }
 
 void PulseCard::selectSource(const RecordingSource& source) {

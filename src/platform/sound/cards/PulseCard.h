@@ -12,6 +12,7 @@ namespace lyrebrook {
 
 struct CardShare;
 class CardLoop;
+class MixerConnection;
 
 /// The user's own sound card, through a server that speaks PulseAudio's protocol. A thread of the card's own does all
 /// that has to do with the server; the entries here only leave word for it and read what it told. When the server or a
@@ -31,6 +32,7 @@ class PulseCard final : public SoundCard {
     void openInput() override;
     void closeInput() override;
     std::int32_t outputCount() const override;
+    std::shared_ptr<MixerBackend> mixer() override;
 
     /// What is recorded from now on; the card's output unless told otherwise.
     void selectSource(const RecordingSource& source);
@@ -44,7 +46,8 @@ class PulseCard final : public SoundCard {
     Frames lostInput() const;
 
   private:
-    std::unique_ptr<CardShare> share_;
+    std::shared_ptr<CardShare> share_;
+    std::weak_ptr<MixerConnection> mixerConnection_;
     std::unique_ptr<CardLoop> loop_;
     std::jthread thread_;
 };

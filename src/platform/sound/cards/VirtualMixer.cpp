@@ -5,20 +5,10 @@
 #include <utility>
 
 #include "platform/sound/cards/MixerMemory.h"
+#include "platform/sound/cards/lineKinds.h"
 
 namespace lyrebrook {
 namespace {
-
-// Kinds of lines by their published numbers.
-constexpr std::int32_t speakers = 4;
-constexpr std::int32_t waveIn = 7;
-constexpr std::int32_t lineKind = 0x1002;
-constexpr std::int32_t microphoneKind = 0x1003;
-constexpr std::int32_t synthesizerKind = 0x1004;
-constexpr std::int32_t compactDiscKind = 0x1005;
-constexpr std::int32_t waveOutKind = 0x1008;
-constexpr std::int32_t auxiliaryKind = 0x1009;
-constexpr std::int32_t analogKind = 0x100A;
 
 template <class Line>
 struct NamedLine {
@@ -32,27 +22,24 @@ constexpr std::array playbackLines{
     NamedLine<CardLine>{CardLine::wave, waveOutKind, "Wave"},
     NamedLine<CardLine>{CardLine::softwareSynth, synthesizerKind, "SW Synth"},
     NamedLine<CardLine>{CardLine::cd, compactDiscKind, "CD"},
-    NamedLine<CardLine>{CardLine::lineIn, lineKind, "Line In"},
+    NamedLine<CardLine>{CardLine::lineIn, lineInKind, "Line In"},
     NamedLine<CardLine>{CardLine::microphone, microphoneKind, "Mic"},
     NamedLine<CardLine>{CardLine::aux, auxiliaryKind, "Aux"},
 };
 constexpr std::array recordingLines{
     NamedLine<RecordingLine>{RecordingLine::stereoMix, analogKind, "Stereo Mix"},
     NamedLine<RecordingLine>{RecordingLine::microphone, microphoneKind, "Mic"},
-    NamedLine<RecordingLine>{RecordingLine::lineIn, lineKind, "Line In"},
+    NamedLine<RecordingLine>{RecordingLine::lineIn, lineInKind, "Line In"},
     NamedLine<RecordingLine>{RecordingLine::cd, compactDiscKind, "CD"},
     NamedLine<RecordingLine>{RecordingLine::wave, waveOutKind, "Wave"},
     NamedLine<RecordingLine>{RecordingLine::aux, auxiliaryKind, "Aux"},
 };
 
-constexpr std::uint16_t speakersNumber = 0;
-constexpr std::uint16_t waveInNumber = 1;
-
 MixerDestination speakersDestination() {
     const std::vector<MixerControlInfo> controls{{.kind = MixerControlKind::volume, .items = {}},
                                                  {.kind = MixerControlKind::mute, .maximum = 1, .items = {}}};
     MixerDestination made{{.id = mixerLineId(speakersNumber, destinationItself),
-                           .componentType = speakers,
+                           .componentType = speakersKind,
                            .name = "Master",
                            .controls = controls},
                           {}};
@@ -69,7 +56,7 @@ MixerDestination waveInDestination() {
     MixerControlInfo selection{
         .kind = MixerControlKind::multiplexer, .maximum = recordingLines.size() - 1, .items = {}};
     MixerDestination made{{.id = mixerLineId(waveInNumber, destinationItself),
-                           .componentType = waveIn,
+                           .componentType = waveInKind,
                            .name = "Recording",
                            .controls = {}},
                           {}};
@@ -84,22 +71,14 @@ MixerDestination waveInDestination() {
     return made;
 }
 
-std::uint16_t destinationOf(std::int32_t line) {
-    return static_cast<std::uint16_t>(line);
-}
-
-std::size_t numberOf(std::int32_t line) {
-    return static_cast<std::uint32_t>(line) >> 16;
-}
-
 /// Only for lines of the layout.
 CardLine playbackLine(std::int32_t line) {
-    const std::size_t number = numberOf(line);
+    const std::uint16_t number = sourceOf(line);
     return number == destinationItself ? CardLine::master : playbackLines.at(number).line;
 }
 
 RecordingLine recordingLine(std::int32_t line) {
-    return recordingLines.at(numberOf(line)).line;
+    return recordingLines.at(sourceOf(line)).line;
 }
 
 LineLevel levelOf(std::span<const std::int32_t> values) {
@@ -114,12 +93,12 @@ class VirtualMixerDevice final : public MixerDevice {
           listener_(std::move(listener)),
           layout_{speakersDestination(), waveInDestination()},
           watch_(lines_->watch([this] { tellChanges(); })) {
-        memory_.look(*this);
+        changes();
     }
 
     const MixerLayout& layout() const override { return layout_; }
 
-    std::optional<std::vector<std::int32_t>> read(const MixerControlPlace& control) const override {
+    MixerValues read(const MixerControlPlace& control) const override {
         switch (control.kind) {
             case MixerControlKind::volume:
                 return readLevel(control.line);
@@ -172,8 +151,12 @@ class VirtualMixerDevice final : public MixerDevice {
         lines_->selectRecording(recordingLines.at(static_cast<std::size_t>(chosen - flags.begin())).line);
     }
 
+    std::vector<MixerControlPlace> changes() {
+        return memory_.look(layout_, [this](const MixerControlPlace& place) { return read(place); });
+    }
+
     void tellChanges() {
-        for (const MixerControlPlace& place : memory_.look(*this)) listener_({place.line, place.kind});
+        for (const MixerControlPlace& place : changes()) listener_({place.line, place.kind});
     }
 
     std::shared_ptr<CardLines> lines_;

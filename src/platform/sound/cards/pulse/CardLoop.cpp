@@ -44,7 +44,7 @@ bool CardLoop::reachServer(std::chrono::milliseconds limit) {
 void CardLoop::begin(SoundCardClient& client) {
     const CardMoment now = CardClock::now();
     client_ = &client;
-    mixer_.begin(client);
+    mixer_.begin(client, share_.buses);
     output_.begin(now);
     lastHeard_ = now;
     lastArrived_ = now;

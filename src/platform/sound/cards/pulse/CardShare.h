@@ -3,8 +3,9 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
-#include <utility>
+#include <mutex>
 
+#include "platform/sound/cards/CardLines.h"
 #include "platform/sound/cards/CardNotice.h"
 #include "platform/sound/cards/pulse/RecordingSource.h"
 
@@ -17,14 +18,26 @@ struct CardShare {
     CardShare& operator=(const CardShare&) = delete;
     ~CardShare() { takeSelection(); }
 
-    /// The latest selection counts.
-    void select(RecordingSource source) {
+    /// The latest selection counts. Never on the card's thread.
+    void select(const RecordingSource& source) {
+        const std::lock_guard lock(chosenMutex);
+        chosenSource = source;
         const std::unique_ptr<RecordingSource> replaced(
-            selection.exchange(std::make_unique<RecordingSource>(std::move(source)).release()));
+            selection.exchange(std::make_unique<RecordingSource>(source).release()));
+    }
+    RecordingSource chosen() const {
+        const std::lock_guard lock(chosenMutex);
+        return chosenSource;
     }
     std::unique_ptr<RecordingSource> takeSelection() {
         return std::unique_ptr<RecordingSource>(selection.exchange(nullptr));
     }
+
+    mutable std::mutex chosenMutex;
+    RecordingSource chosenSource;
+
+    /// Only the program's own two buses are in use of these.
+    CardLines buses;
 
     // From the program's thread.
     std::atomic<bool> inputWanted{false};

@@ -1,11 +1,18 @@
 #include "platform/sound/cards/pulse/TimelineMixer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/sound/RealTimeScope.h"
-#include "platform/sound/mixing.h"
 
 namespace lyrebrook {
+
+void TimelineMixer::begin(SoundCardClient& client, const CardLines& levels) {
+    client_ = &client;
+    levels_ = &levels;
+    waveGain_ = levels.gain(CardLine::wave);
+    synthGain_ = levels.gain(CardLine::softwareSynth);
+}
 
 void TimelineMixer::mix(std::span<StereoFrame> frames) noexcept {
     while (!frames.empty()) {
@@ -29,10 +36,18 @@ void TimelineMixer::mixBlock(std::span<StereoFrame> frames) noexcept {
     const auto wave = std::span{wave_}.first(samples);
     const auto softwareSynth = std::span{softwareSynth_}.first(samples);
     const Frames first = client_->mixFrames({wave, softwareSynth});
-    addSamples(softwareSynth, {}, wave);
-    toFrames(wave, frames);
+    const auto sum = std::span{sum_}.first(samples);
+    std::ranges::fill(sum, 0.0F);
+    addSamples(wave, glideTo(waveGain_, CardLine::wave), sum);
+    addSamples(softwareSynth, glideTo(synthGain_, CardLine::softwareSynth), sum);
+    toFrames(sum, frames);
     mixed_ = first + static_cast<Frames>(frames.size());
     if (capturesOwn_) client_->framesCaptured(first, frames);
+}
+
+GainRamp TimelineMixer::glideTo(StereoGain& reached, CardLine bus) const noexcept {
+    const StereoGain next = levels_->gain(bus);
+    return {std::exchange(reached, next), next};
 }
 
 }  // namespace lyrebrook

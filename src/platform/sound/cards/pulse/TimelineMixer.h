@@ -6,14 +6,17 @@
 
 #include "platform/sound/EngineUnit.h"
 #include "platform/sound/SoundCard.h"
+#include "platform/sound/cards/CardLines.h"
+#include "platform/sound/mixing.h"
 
 namespace lyrebrook {
 
-/// Pulls the engine's timeline and makes one sound of its buses. Used on the card's thread.
+/// Pulls the engine's timeline and makes one sound of its buses, each at its level; a change of level glides over a
+/// block. Used on the card's thread.
 class TimelineMixer {
   public:
-    /// The client outlives all calls.
-    void begin(SoundCardClient& client) { client_ = &client; }
+    /// Both outlive all calls.
+    void begin(SoundCardClient& client, const CardLines& levels);
 
     /// Fills `frames` with the next of the timeline.
     void mix(std::span<StereoFrame> frames) noexcept;
@@ -29,12 +32,17 @@ class TimelineMixer {
 
   private:
     void mixBlock(std::span<StereoFrame> frames) noexcept;
+    GainRamp glideTo(StereoGain& reached, CardLine bus) const noexcept;
 
     SoundCardClient* client_ = nullptr;
+    const CardLines* levels_ = nullptr;
+    StereoGain waveGain_;
+    StereoGain synthGain_;
     Frames mixed_ = 0;
     bool capturesOwn_ = false;
     alignas(32) std::array<float, 2 * mixBlockFrames> wave_{};
     alignas(32) std::array<float, 2 * mixBlockFrames> softwareSynth_{};
+    alignas(32) std::array<float, 2 * mixBlockFrames> sum_{};
     std::array<StereoFrame, mixBlockFrames> dropped_{};
 };
 
