@@ -39,9 +39,9 @@ class FrmDemoCD::TextsHeld {
 void FrmDemoCD::cmdCreate_Click() {
     const QString title = comTitles.Text();
     setMousePointer(MousePointer::hourglass);
-    const bool done = !validateWizard() || finalize(title);
+    if (validateWizard() && !finalize(title)) return;
     setMousePointer(MousePointer::standard);
-    if (done) frmIntro->picStatusY[4].ZOrder();
+    frmIntro->picStatusY[4].ZOrder();
 }
 
 bool FrmDemoCD::validateWizard() {

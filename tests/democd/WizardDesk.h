@@ -18,9 +18,9 @@ class WizardDesk : public testing::Test {
   protected:
     WizardDesk() {
         startProgram();
-        for (const char* page : {"index.htm", "music.htm", "photos.htm", "contact.htm"}) {
-            QFile::copy(testData("templates/") + QString::fromLatin1(page),
-                        path("templates/cdRedPlayer/") + QString::fromLatin1(page));
+        const QDir templates(testData("templates"));
+        for (const QString& page : templates.entryList(QDir::Files)) {
+            QFile::copy(templates.filePath(page), path("templates/cdRedPlayer/" + page));
         }
     }
 
@@ -32,54 +32,47 @@ class WizardDesk : public testing::Test {
     }
 
     ScriptedDesktop& desk() { return studio_->desk(); }
-    QString path(const char* relative) const { return folder_.filePath(QString::fromUtf8(relative)); }
-    static QString testData(const char* relative) {
-        return QStringLiteral(DEMOCD_TEST_DATA "/") + QString::fromLatin1(relative);
-    }
+    QString path(const QString& relative) const { return folder_.filePath(relative); }
+    static QString testData(const QString& name) { return DEMOCD_TEST_DATA "/" + name; }
 
     static QByteArray bytesOf(const QString& file) {
         QFile opened(file);
         EXPECT_TRUE(opened.open(QIODevice::ReadOnly)) << file.toStdString();
         return opened.readAll();
     }
-    QString holding(const char* relative, const QByteArray& bytes) const {
+    QString holding(const QString& relative, const QByteArray& bytes) const {
         QFile file(path(relative));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << relative;
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << relative.toStdString();
         file.write(bytes);
         return file.fileName();
     }
-    QStringList namesIn(const char* folder) const {
+    QStringList namesIn(const QString& folder) const {
         return QDir(path(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
-    void chooseSong(int index, const QString& file) {
+    void choose(const ControlArray<CommandButton>& getFile, int index, const QString& file) {
         desk().willChoose(file);
-        frmDemoCD->cmdOpenSong[index].setValue(true);
-    }
-    void choosePhoto(int index, const QString& file) {
-        desk().willChoose(file);
-        frmDemoCD->cmdOpenPhoto[index].setValue(true);
+        getFile[index].setValue(true);
     }
 
-    /// The least that can be finalized.
+    static std::array<TextBox*, 5> required() {
+        return {&frmDemoCD->txtName, &frmDemoCD->txtAge, &frmDemoCD->txtCountry, &frmDemoCD->txtOwner,
+                &frmDemoCD->txtCV};
+    }
     static void fillRequired() {
-        frmDemoCD->comTitles.setText(QStringLiteral("My Demo"));
-        for (TextBox* box : {&frmDemoCD->txtName, &frmDemoCD->txtAge, &frmDemoCD->txtCountry, &frmDemoCD->txtOwner,
-                             &frmDemoCD->txtCV}) {
-            box->setText(QStringLiteral("x"));
-        }
+        frmDemoCD->comTitles.setText("My Demo");
+        for (TextBox* box : required()) box->setText("x");
     }
-
     static void finalize() { frmDemoCD->cmdCreate.setValue(true); }
 
-    /// What was said while `action` ran and every box was answered with OK.
+    /// What was said, in plain boxes, while `action` ran.
     QStringList saidDuring(int boxes, const std::function<void()>& action) {
         for (int i = 0; i < boxes; ++i) desk().willAnswer(vbOK);
         action();
         QStringList texts;
         for (const Box& box : desk().takeBoxes()) {
             texts << box.text;
-            EXPECT_EQ(box, Box{box.text}) << "a plain box";
+            EXPECT_EQ(box, Box{box.text});
         }
         return texts;
     }

@@ -20,7 +20,7 @@ void refuseProtected(const std::filesystem::path& folder) {
     std::error_code error;
     for (auto entry = std::filesystem::recursive_directory_iterator(folder, error);
          !error && entry != std::filesystem::recursive_directory_iterator(); entry.increment(error)) {
-        const auto status = entry->symlink_status();
+        const auto status = entry->symlink_status(error);
         const bool writable = (status.permissions() & std::filesystem::perms::owner_write) != std::filesystem::perms{};
         if (std::filesystem::is_regular_file(status) && !writable)
             throw fileError(RuntimeErrorNumber::permissionDenied);
