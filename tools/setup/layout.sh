@@ -44,7 +44,7 @@ lay_out() {
         while IFS= read -r name; do
             source=$tree/$name
             case $name in
-                *.xon) source=$build/placedWorkset && place_workset "$tree/$name" "$folder" >"$source" ;;
+                projects/*.xon) source=$build/placedWorkset && place_workset "$tree/$name" "$folder" >"$source" ;;
             esac
             ship "$source" "$folder" "$name"
         done < <(cd "$tree" && find . -type f -printf '%P\n')

@@ -3,7 +3,7 @@
 build_packages=(
     ca-certificates ccache cmake g++ ninja-build pkg-config
     libfluidsynth-dev libpulse-dev libreaderwriterqueue-dev libsamplerate0-dev libsndfile1-dev qt6-base-dev
-    fluid-soundfont-gm fonts-dejavu-core
+    fluid-soundfont-gm fonts-dejavu-core wamerican
 )
 test_packages=(
     clang-format clang-tidy-19 git googletest libgmock-dev libgtest-dev procps

@@ -25,6 +25,7 @@ void walk(const QString& folder) {
     chooseBacktrack(tour);
     recordBacktrack(tour);
     singVoices(tour);
+    findRhymes(tour);
     makeDemo(tour);
     showSite(tour);
     tour.require(!complained, QStringLiteral("no complaint on the way"));
