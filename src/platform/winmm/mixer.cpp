@@ -31,12 +31,6 @@ std::shared_ptr<MixerBackend>& backendInFront() {
     return backend;
 }
 
-std::shared_ptr<MixerBackend> backend() {
-    if (backendInFront() != nullptr) return backendInFront();
-    SoundCard* const card = SoundSystem::card();
-    return card == nullptr ? nullptr : card->mixer();
-}
-
 std::map<HMIXER, OpenMixer>& openMixers() {
     static std::map<HMIXER, OpenMixer> mixers;
     return mixers;
@@ -164,14 +158,20 @@ void setMixerBackend(std::shared_ptr<MixerBackend> backend) {
     backendInFront() = std::move(backend);
 }
 
+std::shared_ptr<MixerBackend> mixerBackend() {
+    if (backendInFront() != nullptr) return backendInFront();
+    SoundCard* const card = SoundSystem::card();
+    return card == nullptr ? nullptr : card->mixer();
+}
+
 std::int32_t mixerGetNumDevs() {
-    const auto card = backend();
+    const auto card = mixerBackend();
     return card == nullptr ? 0 : static_cast<std::int32_t>(card->deviceNames().size());
 }
 
 MMRESULT mixerGetDevCapsA(std::int32_t device, MIXERCAPS& caps, std::int32_t size) {
     if (size != sizeof(MIXERCAPS)) return MMSYSERR_INVALPARAM;
-    const auto card = backend();
+    const auto card = mixerBackend();
     if (card == nullptr) return MMSYSERR_NODRIVER;
     const auto names = card->deviceNames();
     if (device < 0 || std::cmp_greater_equal(device, names.size())) return MMSYSERR_BADDEVICEID;
@@ -183,7 +183,7 @@ MMRESULT mixerGetDevCapsA(std::int32_t device, MIXERCAPS& caps, std::int32_t siz
 MMRESULT mixerOpen(HMIXER& mixer, std::int32_t device, HWND window, std::int32_t, std::int32_t flags) {
     static HMIXER lastHandle = 0;
     if (flags != 0 && (flags != CALLBACK_WINDOW || window == nullptr)) return MMSYSERR_INVALFLAG;
-    const auto card = backend();
+    const auto card = mixerBackend();
     if (card == nullptr) return MMSYSERR_NODRIVER;
     const HMIXER handle = lastHandle + 1;
     const MessagePost post = flags == 0 ? MessagePost([](const WindowMessage&) {}) : window->post();

@@ -14,6 +14,9 @@ namespace lyrebrook {
 /// Puts another mixer in the place of the card's own, or with null takes it away again. Mixers that are open stay.
 void setMixerBackend(std::shared_ptr<MixerBackend> backend);
 
+/// The mixer in use; null when the card has none, or there is no card.
+std::shared_ptr<MixerBackend> mixerBackend();
+
 std::int32_t mixerGetNumDevs();
 MMRESULT mixerGetDevCapsA(std::int32_t device, MIXERCAPS& caps, std::int32_t size);
 
