@@ -9,7 +9,7 @@
 namespace lyrebrook {
 namespace {
 
-constexpr Frames tapeFrames = 2 * framesPerSecond;
+constexpr Frames tapeFrames = Frames{2} * framesPerSecond;
 constexpr std::chrono::milliseconds betweenMoves{10};
 
 }  // namespace

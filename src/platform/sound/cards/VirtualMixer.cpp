@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 #include "platform/sound/cards/MixerMemory.h"
@@ -35,40 +36,43 @@ constexpr std::array recordingLines{
     NamedLine<RecordingLine>{RecordingLine::aux, auxiliaryKind, "Aux"},
 };
 
-MixerDestination speakersDestination() {
-    const std::vector<MixerControlInfo> controls{{.kind = MixerControlKind::volume, .items = {}},
-                                                 {.kind = MixerControlKind::mute, .maximum = 1, .items = {}}};
-    MixerDestination made{{.id = mixerLineId(speakersNumber, destinationItself),
-                           .componentType = speakersKind,
-                           .name = "Master",
-                           .controls = controls},
-                          {}};
-    for (std::uint16_t i = 0; i < playbackLines.size(); ++i) {
-        made.sources.push_back({.id = mixerLineId(speakersNumber, i),
-                                .componentType = playbackLines[i].kind,
-                                .name = playbackLines[i].name,
-                                .controls = controls});
+const MixerControlInfo volumeControl{.kind = MixerControlKind::volume, .items = {}};
+const MixerControlInfo muteControl{.kind = MixerControlKind::mute, .maximum = 1, .items = {}};
+
+/// The lines of a table, each with the same controls.
+template <class Table>
+std::vector<MixerLineInfo> sourcesOf(const Table& table, std::uint16_t destination,
+                                     const std::vector<MixerControlInfo>& controls) {
+    std::vector<MixerLineInfo> sources(table.size());
+    std::uint16_t number = 0;
+    for (const auto& each : table) {
+        sources[number] = {.id = mixerLineId(destination, number),
+                           .componentType = each.kind,
+                           .name = each.name,
+                           .controls = controls};
+        ++number;
     }
-    return made;
+    return sources;
+}
+
+MixerDestination speakersDestination() {
+    return {{.id = mixerLineId(speakersNumber, destinationItself),
+             .componentType = speakersKind,
+             .name = "Master",
+             .controls = {volumeControl, muteControl}},
+            sourcesOf(playbackLines, speakersNumber, {volumeControl, muteControl})};
 }
 
 MixerDestination waveInDestination() {
+    auto sources = sourcesOf(recordingLines, waveInNumber, {volumeControl});
     MixerControlInfo selection{
         .kind = MixerControlKind::multiplexer, .maximum = recordingLines.size() - 1, .items = {}};
-    MixerDestination made{{.id = mixerLineId(waveInNumber, destinationItself),
-                           .componentType = waveInKind,
-                           .name = "Recording",
-                           .controls = {}},
-                          {}};
-    for (std::uint16_t i = 0; i < recordingLines.size(); ++i) {
-        made.sources.push_back({.id = mixerLineId(waveInNumber, i),
-                                .componentType = recordingLines[i].kind,
-                                .name = recordingLines[i].name,
-                                .controls = {{.kind = MixerControlKind::volume, .items = {}}}});
-        selection.items.push_back(made.sources.back().id);
-    }
-    made.line.controls.push_back(std::move(selection));
-    return made;
+    std::ranges::transform(sources, std::back_inserter(selection.items), &MixerLineInfo::id);
+    return {{.id = mixerLineId(waveInNumber, destinationItself),
+             .componentType = waveInKind,
+             .name = "Recording",
+             .controls = {selection}},
+            std::move(sources)};
 }
 
 /// Only for lines of the layout.
@@ -139,8 +143,9 @@ class VirtualMixerDevice final : public MixerDevice {
     }
 
     std::vector<std::int32_t> readSelection() const {
-        std::vector<std::int32_t> flags;
-        for (const auto& each : recordingLines) flags.push_back(each.line == lines_->selectedRecording() ? 1 : 0);
+        std::vector<std::int32_t> flags(recordingLines.size());
+        std::ranges::transform(recordingLines, flags.begin(),
+                               [this](const auto& each) { return each.line == lines_->selectedRecording() ? 1 : 0; });
         return flags;
     }
 
