@@ -12,6 +12,7 @@
 #include "platform/sound/SoundSystem.h"
 #include "shell/FrmIntro.h"
 #include "shell/modConfig.h"
+#include "support/Sound.h"
 #include "support/Studio.h"
 
 namespace lyrebrook {
@@ -22,8 +23,6 @@ using testing::AnyOf;
 using testing::Each;
 using testing::ElementsAre;
 using testing::StartsWith;
-
-using Sound = std::vector<StereoFrame>;
 
 /// A piano's note of a second, and a knock a second later.
 std::string pianoAndKnock() {

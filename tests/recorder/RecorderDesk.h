@@ -6,7 +6,6 @@
 #include <QTemporaryDir>
 #include <memory>
 #include <span>
-#include <vector>
 
 #include "platform/sound/SoundSystem.h"
 #include "platform/sound/WaveFile.h"
@@ -14,14 +13,9 @@
 #include "recorder/Playback.h"
 #include "recorder/Tracks.h"
 #include "shell/modConfig.h"
+#include "support/Sound.h"
 
 namespace lyrebrook {
-
-using Sound = std::vector<StereoFrame>;
-
-inline void PrintTo(const StereoFrame& frame, std::ostream* out) {
-    *out << frame.left << '/' << frame.right;
-}
 
 /// Frames that tell their place and their track: one lost, doubled or moved shows itself.
 inline Sound ramp(std::size_t frames, std::int16_t first = 1) {
@@ -31,10 +25,6 @@ inline Sound ramp(std::size_t frames, std::int16_t first = 1) {
         sound[i] = {step, static_cast<std::int16_t>(-step)};
     }
     return sound;
-}
-
-inline Sound part(const Sound& sound, std::size_t from, std::size_t to) {
-    return {sound.begin() + static_cast<std::ptrdiff_t>(from), sound.begin() + static_cast<std::ptrdiff_t>(to)};
 }
 
 /// A song in a folder of its own, and its tracks on a card that is turned by hand.

@@ -6,20 +6,15 @@
 #include "recorder/FrmComposer.h"
 #include "recorder/recorderMemory.h"
 #include "shell/modConfig.h"
+#include "support/Sound.h"
 #include "support/Studio.h"
 
 namespace lyrebrook {
 
 using namespace std::chrono_literals;
 
-using Sound = std::vector<StereoFrame>;
-
 constexpr std::size_t second = framesPerSecond;
 constexpr std::size_t songSeconds = 100;
-
-inline void PrintTo(const StereoFrame& frame, std::ostream* out) {
-    *out << frame.left << '/' << frame.right;
-}
 
 inline Sound part(const Sound& sound, std::size_t from, std::size_t to) {
     return {sound.begin() + static_cast<std::ptrdiff_t>(from), sound.begin() + static_cast<std::ptrdiff_t>(to)};

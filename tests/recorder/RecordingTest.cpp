@@ -82,6 +82,18 @@ TEST_F(Recording, ASessionFromTheFirstTakeToTheFinalMix) {
     EXPECT_EQ(frmComposer->cmdRecEnable[4].BackColor(), red) << "and the armed track survives";
 }
 
+TEST_F(Recording, GoesOnBehindTheMusicsEndWhereALongerVoiceDoes) {
+    giveTrack(2, tone(20 * second, 100));
+    open(10);
+    arm(3);
+    clickRecord();
+    sings(tone(12 * second, 300));
+    EXPECT_FALSE(frmComposer->playing());
+    EXPECT_TRUE(recording());
+    clickStop();
+    EXPECT_TRUE(track(3) == tone(12 * second, 300));
+}
+
 TEST_F(Recording, PunchedInWhileTheSongRunsLiesOnTheFrameThatWasPlayed) {
     Sound clicks(20 * second);
     for (std::size_t i = 0; i < clicks.size(); i += 1777) clicks[i] = {20000, 20000};

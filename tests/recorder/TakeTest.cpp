@@ -13,11 +13,10 @@ class TakeOnVoice1 : public RecorderDesk {
     TakeOnVoice1() {
         give(1, ramp(25 * second));
         give(2, old);
-        load();
     }
 
-    /// Voice 1 with a take of 2 seconds laid over it.
-    Sound record(std::size_t start) {
+    /// Voice 1 with a take of 2 seconds laid over it, as it would be saved.
+    Sound recordedAt(std::size_t start) {
         DirectSoundCapture8 capture(SoundSystem::engine());
         take.CreateRecordBuffer(capture, 25);
         tracks.trackBuffer(1).SetCurrentPosition(toBytes(static_cast<Frames>(start)));
@@ -30,34 +29,24 @@ class TakeOnVoice1 : public RecorderDesk {
         tracks.trackBuffer(2).ReadBuffer(0, 0, std::as_writable_bytes(std::span(merged)), DSBLOCK_ENTIREBUFFER);
         return merged;
     }
+    Sound oldPart(std::size_t from, std::size_t to) const { return {old.data() + from, old.data() + to}; }
 
     const Sound old = ramp(5 * second);
     const Sound sung = ramp(2 * second, 7000);
     Take take;
 };
 
-TEST_F(TakeOnVoice1, LeavesSilenceBetweenAnOldEndAndItsStart) {
-    const Sound now = record(10 * second);
-    ASSERT_EQ(now.size(), 12 * second);
-    EXPECT_TRUE(part(now, 0, 5 * second) == old);
-    EXPECT_TRUE(part(now, 5 * second, 10 * second) == Sound(5 * second));
-    EXPECT_TRUE(part(now, 10 * second, 12 * second) == sung);
-}
-
-TEST_F(TakeOnVoice1, GrowsTheTrackButNotTheSong) {
-    const Sound now = record(4 * second);
-    ASSERT_EQ(now.size(), 6 * second);
-    EXPECT_TRUE(part(now, 0, 4 * second) == part(old, 0, 4 * second));
-    EXPECT_TRUE(part(now, 4 * second, 6 * second) == sung);
-    EXPECT_EQ(tracks.songBytes(), 25 * bytesPerSecond);
-}
-
-TEST_F(TakeOnVoice1, KeepsWhatLayBeforeItWhenTheFileVanishedMeanwhile) {
+TEST_F(TakeOnVoice1, ReplacesWhatItCoversAndNothingElse) {
+    load();
+    EXPECT_TRUE(recordedAt(second) == oldPart(0, second) + sung + oldPart(3 * second, 5 * second));
+    load();
+    EXPECT_TRUE(recordedAt(4 * second) == oldPart(0, 4 * second) + sung) << "the track grows";
+    EXPECT_EQ(tracks.songBytes(), 25 * bytesPerSecond) << "but the song doesn't";
+    load();
+    EXPECT_TRUE(recordedAt(10 * second) == old + Sound(5 * second) + sung) << "silence between an old end and a take";
+    load();
     QFile::remove(trackFilePath(2));
-    const Sound now = record(second);
-    ASSERT_EQ(now.size(), 3 * second);
-    EXPECT_TRUE(part(now, 0, second) == part(old, 0, second));
-    EXPECT_TRUE(part(now, second, 3 * second) == sung);
+    EXPECT_TRUE(recordedAt(second) == oldPart(0, second) + sung) << "what lay before stays though the file is gone";
 }
 
 }  // namespace

@@ -213,6 +213,8 @@ TEST_F(TransportScreen, ZoomsAndScrollsTheTimeLine) {
     open();
     const double window = frmComposer->imgContainerB.Width();
     EXPECT_EQ(frmComposer->imgSliderB.Width(), window - 50);
+    EXPECT_NEAR(frmComposer->shpWaveform[1].Width(), 8275, 0.01) << "100 twips short at both ends";
+    EXPECT_EQ(frmComposer->shpWaveform[3].Top(), 825);
     EXPECT_FALSE(frmComposer->HScrollB.Enabled());
     EXPECT_TRUE(frmComposer->VScrollA.Enabled());
     frmComposer->sldHScale.setValue(105);

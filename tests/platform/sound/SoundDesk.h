@@ -4,21 +4,15 @@
 
 #include <memory>
 #include <span>
-#include <vector>
 
 #include "platform/sound/DirectSound8.h"
 #include "platform/sound/DirectSoundCapture8.h"
 #include "platform/sound/SoundSystem.h"
 #include "platform/sound/SoundTransaction.h"
 #include "platform/sound/cards/VirtualCard.h"
+#include "support/Sound.h"
 
 namespace lyrebrook {
-
-using Sound = std::vector<StereoFrame>;
-
-inline void PrintTo(const StereoFrame& frame, std::ostream* out) {
-    *out << frame.left << '/' << frame.right;
-}
 
 /// Frames that tell their place: one lost, doubled or moved shows itself.
 inline Sound ramp(Frames length, std::int16_t first = 1) {
@@ -36,11 +30,6 @@ inline Sound silence(Frames length) {
 
 inline Sound part(const Sound& sound, Frames from, Frames length) {
     return {sound.begin() + from, sound.begin() + from + length};
-}
-
-inline Sound operator+(Sound first, const Sound& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
 }
 
 /// A hand-cranked card with its engine, as the program has it, and what was heard of it.
