@@ -4,6 +4,8 @@
 #include <bit>
 #include <cmath>
 
+#include "platform/sound/wideLoops.h"
+
 namespace lyrebrook {
 namespace {
 
@@ -65,22 +67,24 @@ StereoGain gainOf(std::int32_t volume, std::int32_t pan) noexcept {
     return {both * gainOf(-std::max(pan, 0)), both * gainOf(std::min(pan, 0))};
 }
 
-void addFrames(std::span<const StereoFrame> frames, const GainRamp& gain, std::span<float> bus) noexcept {
+LYREBROOK_WIDE_LOOPS void addFrames(std::span<const StereoFrame> frames, const GainRamp& gain,
+                                    std::span<float> bus) noexcept {
     const GainRamp fromInteger{scaled(gain.from, 1 / fullScale), scaled(gain.to, 1 / fullScale)};
     add(samplesOf(frames), frames.size(), fromInteger, bus.data());
 }
 
-void addSamples(std::span<const float> samples, const GainRamp& gain, std::span<float> bus) noexcept {
+LYREBROOK_WIDE_LOOPS void addSamples(std::span<const float> samples, const GainRamp& gain,
+                                     std::span<float> bus) noexcept {
     add(samples.data(), samples.size() / 2, gain, bus.data());
 }
 
-void toFloats(std::span<const StereoFrame> frames, std::span<float> samples) noexcept {
+LYREBROOK_WIDE_LOOPS void toFloats(std::span<const StereoFrame> frames, std::span<float> samples) noexcept {
     const std::int16_t* from = samplesOf(frames);
     float* __restrict to = samples.data();
     for (std::size_t i = 0; i < 2 * frames.size(); ++i) to[i] = static_cast<float>(from[i]) * (1 / fullScale);
 }
 
-void toFrames(std::span<const float> samples, std::span<StereoFrame> frames) noexcept {
+LYREBROOK_WIDE_LOOPS void toFrames(std::span<const float> samples, std::span<StereoFrame> frames) noexcept {
     const float* from = samples.data();
     std::int16_t* __restrict to = frames.empty() ? nullptr : &frames.front().left;
     for (std::size_t i = 0; i < samples.size(); ++i) {

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "platform/sound/SoundFormat.h"
+#include "platform/sound/wideLoops.h"
 
 namespace lyrebrook {
 namespace {
@@ -54,7 +55,7 @@ void AbsorptionBank::glide(std::size_t frames) noexcept {
     }
 }
 
-void AbsorptionBank::process(LineSlices& lines, std::size_t frames) noexcept {
+LYREBROOK_WIDE_LOOPS void AbsorptionBank::process(LineSlices& lines, std::size_t frames) noexcept {
     glide(frames);
     for (std::size_t t = 0; t < frames; ++t) {
         for (std::size_t line = 0; line < reverbLines; ++line) in_[t + history][line] = lines[line][t];

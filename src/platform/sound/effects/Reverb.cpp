@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/sound/wideLoops.h"
+
 namespace lyrebrook {
 namespace {
 
@@ -43,7 +45,7 @@ void Reverb::process(std::span<float> interleavedStereo) noexcept {
     }
 }
 
-void Reverb::processSlice(float* __restrict sound, std::size_t frames) noexcept {
+LYREBROOK_WIDE_LOOPS void Reverb::processSlice(float* __restrict sound, std::size_t frames) noexcept {
     StereoSlice wet;
     wet.frames = frames;
     const Ramp in = inGain_.advance(frames);

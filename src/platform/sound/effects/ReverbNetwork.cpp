@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "platform/sound/SoundFormat.h"
+#include "platform/sound/wideLoops.h"
 
 namespace lyrebrook {
 namespace {
@@ -89,7 +90,7 @@ std::size_t ReverbNetwork::longestRing(float milliseconds) noexcept {
     return static_cast<std::size_t>(decay) + 2 * quietForSleep;
 }
 
-void ReverbNetwork::process(StereoSlice& slice) noexcept {
+LYREBROOK_WIDE_LOOPS void ReverbNetwork::process(StereoSlice& slice) noexcept {
     const bool loudInput = isLoud(slice);
     if (asleep_ && !loudInput) {
         slice.left.fill(0.0F);
@@ -111,12 +112,12 @@ void ReverbNetwork::process(StereoSlice& slice) noexcept {
     watch(loudInput || isLoud(slice), slice.frames);
 }
 
-void ReverbNetwork::diffuse(StereoSlice& slice) noexcept {
+LYREBROOK_WIDE_LOOPS void ReverbNetwork::diffuse(StereoSlice& slice) noexcept {
     for (DelayLine& delay : diffuseLeft_) diffuseThrough(delay, slice.left, slice.frames);
     for (DelayLine& delay : diffuseRight_) diffuseThrough(delay, slice.right, slice.frames);
 }
 
-void ReverbNetwork::mix(LineSlices& lines, StereoSlice& slice) noexcept {
+LYREBROOK_WIDE_LOOPS void ReverbNetwork::mix(LineSlices& lines, StereoSlice& slice) noexcept {
     float* __restrict left = slice.left.data();
     float* __restrict right = slice.right.data();
     for (std::size_t t = 0; t < slice.frames; ++t) {
