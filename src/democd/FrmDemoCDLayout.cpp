@@ -10,7 +10,7 @@ namespace {
 
 /// Maker of like controls, each inside the frame of its index.
 template <class T, class... Args>
-auto inside(const ControlArray<Frame>& frames, Args... args) {
+auto inside(const ControlArray<Frame>& frames, const Args&... args) {
     return [&frames, args...](int index) { return std::make_unique<T>(frames[index], args...); };
 }
 

@@ -115,7 +115,7 @@ std::size_t ReplacingFile::copyFrom(int source, std::size_t bytes) {
 }
 
 std::size_t ReplacingFile::readAndWrite(int source, std::size_t bytes) {
-    std::array<std::byte, 64 * 1024> piece;
+    std::array<std::byte, 65536> piece;
     const std::size_t wanted = std::min(bytes, piece.size());
     ssize_t count;
     do {

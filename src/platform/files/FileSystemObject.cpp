@@ -82,7 +82,7 @@ void FileSystemObject::CreateFolder(const QString& path) const {
 
 void FileSystemObject::CopyFile(const QString& from, const QString& to,
                                 const std::function<void()>& betweenPieces) const {
-    constexpr std::size_t piece = 4 * 1024 * 1024;
+    constexpr std::size_t piece = 4'194'304;
     const OpenFile source(from);
     const QString target = to.endsWith(u'/') ? to + QFileInfo(from).fileName() : to;
     // A copy can be made again, so it need not wait for the disk.
