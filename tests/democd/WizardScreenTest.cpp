@@ -38,7 +38,8 @@ TEST_F(WizardScreen, ListsWorksetsAndNoSongs) {
 TEST_F(WizardScreen, PicksFilesWithAKnownEndingAnywhereInTheirNames) {
     const auto song = [this](const QString& file) { choose(frmDemoCD->cmdOpenSong, 2, file); };
     const auto photo = [this](const QString& file) { choose(frmDemoCD->cmdOpenPhoto, 2, file); };
-    for (const QString name : {"Song.MID", "song.mid.txt", "b.mp3"}) {
+    const QString longName = QString(200, u'b') + ".mp3";
+    for (const QString& name : {QString("Song.MID"), QString("song.mid.txt"), longName}) {
         song("/a/" + name);
         EXPECT_EQ(frmDemoCD->txtPathLong[2].Text(), "/a/" + name);
         EXPECT_EQ(frmDemoCD->lblPath[2].Caption(), name);
@@ -47,7 +48,7 @@ TEST_F(WizardScreen, PicksFilesWithAKnownEndingAnywhereInTheirNames) {
               QStringList{"You can only select audio files with the following extensions; *.Mid, *.Midi, *.Wav, "
                           "*.Mp3"});
     song({});
-    EXPECT_EQ(frmDemoCD->txtPathLong[2].Text(), "/a/b.mp3");
+    EXPECT_EQ(frmDemoCD->txtPathLong[2].Text(), "/a/" + longName);
 
     EXPECT_EQ(saidDuring(1, [&] { photo("/a/me.jpeg"); }),
               QStringList{"You can only images with the following extensions: *.Jpeg, *.Gif"});
@@ -88,6 +89,12 @@ TEST_F(WizardScreen, LoadsWhatTheFileHoldsAndEmptiesTheRest) {
     EXPECT_EQ(frmDemoCD->txtCV.Text(), longest + "\r\n");
     EXPECT_EQ(frmDemoCD->txtEmail.Text() + frmDemoCD->lblPath[1].Caption() + frmDemoCD->txtPathLong[1].Text(), "");
     EXPECT_FALSE(frmDemoCD->frmMessage.Visible());
+}
+
+TEST(WorksetHtml, HoldsOneTagForALineBreakOfAnyKind) {
+    Workset workset;
+    workset.postal = "a\r\nb\rc\n\nd";
+    EXPECT_EQ(htmlOf(workset).postalHtml, "a<br>b<br>c<br><br>d");
 }
 
 TEST_F(WizardScreen, DeletesOneWorksetAndLeavesTheTexts) {
