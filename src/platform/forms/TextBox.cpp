@@ -5,14 +5,31 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QTextDocumentFragment>
+#include <QValidator>
 
 #include "platform/forms/Boundary.h"
 
 namespace lyrebrook {
 namespace {
 
+/// Makes one line of what is pasted or set: the box would hide its line breaks, but hand them on.
+class JoinLines final : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int&) const override {
+        text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+        for (const char16_t lineBreak : {u'\r', u'\n'}) text.replace(lineBreak, u' ');
+        return Acceptable;
+    }
+};
+
 QWidget* newBox(QWidget* container, Lines lines) {
-    if (lines == Lines::single) return new QLineEdit(container);
+    if (lines == Lines::single) {
+        auto* line = new QLineEdit(container);
+        line->setValidator(new JoinLines(line));
+        return line;
+    }
     auto* page = new QPlainTextEdit(container);
     page->setTabChangesFocus(true);
     return page;
@@ -56,10 +73,12 @@ void TextBox::setText(const QString& text) {
     const QString before = Text();
     {
         const QSignalBlocker noSignal(widget());
-        if (lines_ == Lines::single)
+        if (lines_ == Lines::single) {
             line().setText(text);
-        else
+            line().setCursorPosition(0);  // a text that is too wide shows its beginning
+        } else {
             page().setPlainText(withLineFeeds(text));
+        }
     }
     if (Text() != before) Change.fire();
 }

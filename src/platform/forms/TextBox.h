@@ -9,7 +9,8 @@ namespace lyrebrook {
 
 enum class Lines { single, multiple };
 
-/// A box of plain text. Lines of a multi-line text are joined by CR LF on this side of the box.
+/// A box of plain text. Lines of a multi-line text are joined by CR LF on this side of the box; a box of a single line
+/// joins them by blanks, and holds 32767 characters.
 class TextBox final : public Control {
   public:
     explicit TextBox(QWidget* container, const QString& text = {}, Lines lines = Lines::single);
