@@ -1,6 +1,7 @@
 #include "recorder/FrmComposer.h"
 
 #include "backtrack/FrmMixer.h"
+#include "lyrics/FrmLyrics.h"
 #include "platform/base/Numbers.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/files/App.h"
@@ -56,6 +57,10 @@ void FrmComposer::connectHandlers() {
     on(btnOUT.Click, &FrmComposer::btnOUT_Click);
     on(btnRepeat.Click, &FrmComposer::btnRepeat_Click);
     on(chkLyrics.Click, &FrmComposer::chkLyrics_Click);
+    on(cmdLyricAdd.Click, &FrmComposer::cmdLyricAdd_Click);
+    on(cmdLyricUpdate.Click, &FrmComposer::cmdLyricUpdate_Click);
+    on(cmdViewLyrics.Click, &FrmComposer::cmdViewLyrics_Click);
+    on(cmdRhyme.Click, &FrmComposer::cmdRhyme_Click);
     on(cbEnableVU.Click, &FrmComposer::cbEnableVU_Click);
     on(Timer1.Tick, &FrmComposer::Timer1_Timer);
     on(cmdRecord.Click, &FrmComposer::cmdRecord_Click);
@@ -122,6 +127,8 @@ void FrmComposer::Form_Activate() {
     rightVU.setVisible(true);
     if (!playing() && cbEnableVU.Value() == 1) StartVUCapture();
     gLyricFile = App::Path() + QStringLiteral("/songs/") + gSongName + QStringLiteral(".txt");
+    frmLyrics->loadLyricsFromTextFile();
+    if (unloaded_) return;
     tellUnreadable(unreadable);
 }
 
@@ -144,6 +151,8 @@ void FrmComposer::Form_Unload() {
     Timer1.setEnabled(false);
     StopVUCapture();
     CloseAudio();
+    frmLyrics->resetLyricsArray();
+    frmLyrics.Unload();  // a save there would now write an empty file
     frmIntro->picStatusY[3].ZOrder();
 }
 

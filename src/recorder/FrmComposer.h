@@ -22,6 +22,7 @@
 #include "platform/forms/TextBox.h"
 #include "platform/forms/Timer.h"
 #include "recorder/LevelBars.h"
+#include "recorder/LyricTimeline.h"
 #include "recorder/Playback.h"
 #include "recorder/SoundNotice.h"
 #include "recorder/Take.h"
@@ -29,6 +30,7 @@
 #include "recorder/TrackView.h"
 #include "recorder/Tracks.h"
 #include "recorder/Transport.h"
+#include "shell/modConfig.h"
 
 class QBoxLayout;
 
@@ -96,6 +98,9 @@ class FrmComposer final : public Form {
     Slider sldOffset;
     Frame Frame9;
     CheckBox chkLyrics;
+    TextBox txtChord, txtLyrics;
+    Frame Frame8;
+    CommandButton cmdLyricAdd, cmdLyricUpdate, cmdViewLyrics, cmdRhyme;
     CommandButton cmdHelpVolume, cmdHelp, btnEnd, Command1;
     Timer Timer1{50};
 
@@ -105,9 +110,11 @@ class FrmComposer final : public Form {
     void layOut();
     QBoxLayout* layOutTransport();
     QBoxLayout* layOutMiddle();
+    QBoxLayout* layOutWords();
     QBoxLayout* layOutMixer();
     QBoxLayout* layOutBottom();
     QWidget* layOutOffset();
+    QWidget* layOutLyricButtons();
     void layOutTrackView();
     void nameControls();
     void showValues();
@@ -152,6 +159,17 @@ class FrmComposer final : public Form {
     void chkLyrics_Click();
     float position() const { return tracks_.getPosition(tracks_.longestTrack()); }
 
+    LyricTimeline::Line typedLine() const;
+    void showLine(const LyricTimeline::Line& line);
+    void seekLyric();
+    void advanceLyric();
+    void confirmLyricEdits();
+    void cmdLyricAdd_Click();
+    void cmdLyricUpdate_Click();
+    void cmdViewLyrics_Click();
+    void cmdRhyme_Click();
+    bool lyricsEnabled() const { return chkLyrics.Value() == 1; }
+
     bool recording() const { return cbRecord.Value() == 1; }
     void cmdRecEnable_Click(int track);
     void cmdRecord_Click();
@@ -176,6 +194,7 @@ class FrmComposer final : public Form {
     Take take_;
     TakeTable takes_;
     Transport transport_;
+    LyricTimeline lyrics_{gLyrics};
     LevelBars bars_;
     SoundNotice notice_;
     TrackView view_{{}, trackCount, 1, 0};

@@ -155,6 +155,13 @@ FrmComposer::FrmComposer()
       sldOffset(frameOffset, Orientation::horizontal, offsetRange),
       Frame9(content(), QStringLiteral("Lyrics")),
       chkLyrics(Frame9, QStringLiteral("Enabled"), 1),
+      txtChord(content()),
+      txtLyrics(content()),
+      Frame8(content(), QStringLiteral("Lyrics")),
+      cmdLyricAdd(Frame8, QStringLiteral("Insert")),
+      cmdLyricUpdate(Frame8, QStringLiteral("Update")),
+      cmdViewLyrics(Frame8, QStringLiteral("View")),
+      cmdRhyme(Frame8, QStringLiteral("Rhyme")),
       cmdHelpVolume(content(), QStringLiteral("Help")),
       cmdHelp(content(), QStringLiteral("Help")),
       btnEnd(content(), QStringLiteral("Close")),
@@ -173,6 +180,7 @@ void FrmComposer::layOut() {
     column->setSpacing(0);
     column->addLayout(layOutTransport());
     column->addLayout(layOutMiddle());
+    column->addLayout(layOutWords());
     column->addLayout(layOutMixer());
     column->addSpacing(margin);
     column->addLayout(layOutBottom());
@@ -240,6 +248,20 @@ QBoxLayout* FrmComposer::layOutMiddle() {
     return row;
 }
 
+/// What is sung and played now, to be read from the microphone.
+QBoxLayout* FrmComposer::layOutWords() {
+    txtChord.setHint(QStringLiteral("Chord"));
+    txtLyrics.setHint(QStringLiteral("Lyric"));
+    for (TextBox* box : {&txtChord, &txtLyrics}) box->setLook(Look::words);
+    txtChord.widget()->setFixedWidth(150);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(margin, 0, margin, 12);
+    row->setSpacing(8);
+    row->addWidget(txtChord);
+    row->addWidget(txtLyrics);
+    return row;
+}
+
 QBoxLayout* FrmComposer::layOutMixer() {
     Frame1.setToolTipText(QStringLiteral("The channel sliders set the PLAYBACK volumes for each individual track"));
     Frame1.widget()->setFixedWidth(toPixels(5400));
@@ -259,6 +281,7 @@ QBoxLayout* FrmComposer::layOutMixer() {
     auto* right = new QVBoxLayout;
     right->setSpacing(10);
     right->addWidget(layOutOffset());
+    right->addWidget(layOutLyricButtons());
     right->addLayout(beside);
 
     auto* row = new QHBoxLayout;
@@ -282,6 +305,12 @@ QWidget* FrmComposer::layOutOffset() {
     grid->addWidget(sldOffset, 1, 0, 1, 3);
     grid->setColumnStretch(1, 1);
     return frameOffset;
+}
+
+QWidget* FrmComposer::layOutLyricButtons() {
+    auto* row = rowIn(Frame8);
+    for (CommandButton* button : {&cmdLyricAdd, &cmdLyricUpdate, &cmdViewLyrics, &cmdRhyme}) row->addWidget(*button);
+    return Frame8;
 }
 
 QBoxLayout* FrmComposer::layOutBottom() {
@@ -343,6 +372,10 @@ void FrmComposer::nameControls() {
     cmdHome.setAccessibleName(QStringLiteral("Cursor to Home"));
     cbEnableVU.setAccessibleName(QStringLiteral("Recording VU Meter"));
     chkLyrics.setToolTipText(QStringLiteral("Disable lyrics on slow computers when tracks are not synchronized"));
+    txtLyrics.setToolTipText(QStringLiteral("Lyric window"));
+    txtLyrics.setAccessibleName(QStringLiteral("Lyric"));
+    txtChord.setToolTipText(QStringLiteral("Chord window"));
+    txtChord.setAccessibleName(QStringLiteral("Chord"));
     sldHScale.setToolTipText(QStringLiteral("Zoom in / out with graphic display"));
     Label1.names(sldHScale);
     sMaster.setAccessibleName(Frame2.Caption());

@@ -22,6 +22,7 @@ void FrmComposer::Timer1_Timer() {
     showState();
     updateCursor();
     applyTrackMix();
+    if (lyricsEnabled()) advanceLyric();
     if (recording()) {
         extendRecordedWave();
         bars_.UpdateVU(*take_.recordBuffer());
@@ -50,19 +51,25 @@ void FrmComposer::applyTrackMix() {
 
 void FrmComposer::updateCursor() {
     if (!tracks_.loaded()) return;
+    const bool stopped = !playing();
     transport_.read(tracks_.playCursor(musicTrack));
     const double x = songBar().cursorX(transport_.playPos());
     lnCursor.setX1(x);
     lnCursor.setX2(x);
+    if (stopped && lyricsEnabled()) seekLyric();
     lblHMS.setCaption(timeText(transport_.playPos(), tracks_.songBytes()));
 }
 
 void FrmComposer::cmdPlay_Click() {
     if (playing()) return cmdStop_Click();
     if (!tracks_.loaded()) return;
-    transport_.begin(tracks_.playCursor(tracks_.longestTrack()));
+    const std::int32_t cursor = tracks_.playCursor(tracks_.longestTrack());
+    confirmLyricEdits();
+    if (unloaded_) return;
+    transport_.begin(cursor);
     Timer1.setEnabled(true);
     applyTrackMix();
+    if (lyricsEnabled()) seekLyric();
     if (recording()) CreateRecordBuffer();
     playback_.startTracks(mix(), recording() ? take_.recordBuffer() : nullptr);
 }
@@ -137,7 +144,7 @@ void FrmComposer::btnRepeat_Click() {
 void FrmComposer::chkLyrics_Click() {
     constexpr std::int32_t withLyrics = 20;
     constexpr std::int32_t sparing = 500;
-    Timer1.setInterval(chkLyrics.Value() == 1 ? withLyrics : sparing);
+    Timer1.setInterval(lyricsEnabled() ? withLyrics : sparing);
 }
 
 }  // namespace lyrebrook

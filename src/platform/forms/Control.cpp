@@ -13,7 +13,7 @@ namespace lyrebrook {
 namespace {
 
 /// Names of `Look` in the style sheet.
-constexpr std::array lookNames = {"",       "title",   "heading", "hint",    "readout", "notice",
+constexpr std::array lookNames = {"",       "title",   "heading", "hint",    "readout", "words", "notice",
                                   "status", "primary", "danger",  "compact", "bare",    "page"};
 
 /// A message box, a menu or another program that takes the focus for a while doesn't end what the user does here.

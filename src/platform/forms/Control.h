@@ -19,6 +19,7 @@ enum class Look {
     heading,  ///< the name of a part of it
     hint,     ///< a quiet line of explanation
     readout,  ///< figures to be read from afar, on black
+    words,    ///< a box of words to be sung from, read from afar
     notice,   ///< a line that a person has to see
     status,   ///< a spaced-out word such as a transport's state
     primary,  ///< the button that a screen is for

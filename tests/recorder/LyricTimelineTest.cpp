@@ -1,0 +1,148 @@
+#include <QApplication>
+#include <QKeyEvent>
+
+#include "dictionary/FrmDictionary.h"
+#include "lyrics/FrmLyrics.h"
+#include "recorder/RecorderScreen.h"
+
+namespace lyrebrook {
+namespace {
+
+class LyricsInRecorder : public RecorderScreen {
+  protected:
+    static void type(const char* chord, const char* lyric) {
+        frmComposer->txtChord.setText(QString::fromUtf8(chord));
+        frmComposer->txtLyrics.setText(QString::fromUtf8(lyric));
+    }
+    static void write(double atSecond, const char* chord, const char* lyric) {
+        moveTo(atSecond);
+        type(chord, lyric);
+        frmComposer->cmdLyricAdd.setValue(true);
+    }
+    static QString shown() { return frmComposer->txtChord.Text() + u'|' + frmComposer->txtLyrics.Text(); }
+    static QByteArray lyricFile() {
+        QFile file(gLyricFile);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void clickPlayAnswering(MsgBoxResult answer) {
+        desk().willAnswer(answer);
+        clickPlay();
+        expectBoxes(Box{QStringLiteral("Click YES to save new lyric and chord\r\nClick NO to update existing chord!"
+                                       "\r\n"),
+                        vbYesNoCancel + vbQuestion, QStringLiteral("Save changes")});
+    }
+};
+
+TEST_F(LyricsInRecorder, EachLineIsShownItsLeadBeforeThePlaceWhereItWasWritten) {
+    open();
+    write(8, "", "no chord");
+    write(4, "Am", " Walking down the road ");
+    write(8.01, "G", "");
+    ASSERT_EQ(lyricFile(), "000705600::Am::Walking down the road\r\n001411200::::no chord\r\n001412964::G::\r\n");
+    moveTo(1);
+    EXPECT_EQ(shown(), QStringLiteral("|"));
+    const std::int64_t start = desk().monotonicMilliseconds() - 1000;
+    clickPlay();
+    const std::pair<double, const char*> lines[] = {
+        {705600, "Am|Walking down the road"}, {1411200, "|no chord"}, {1412964, "G|"}};
+    constexpr double tick = 50;
+    for (const auto& [position, line] : lines) {
+        ASSERT_TRUE(crankUntil([line] { return shown() == QString::fromUtf8(line); }, 10s)) << line;
+        const double late = static_cast<double>(desk().monotonicMilliseconds() - start) - (position - 200000) / 176.4;
+        EXPECT_GE(late, 0) << line;
+        EXPECT_LE(late, 2 * tick) << line;  // lines a hundredth of a second apart take a tick each
+    }
+    crank(10s);
+    EXPECT_EQ(shown(), QStringLiteral("G|")) << "nothing clears the last line";
+    clickStop();
+    moveTo(6);
+    EXPECT_EQ(shown(), QStringLiteral("Am|Walking down the road")) << "the line that the cursor stands in";
+}
+
+TEST_F(LyricsInRecorder, StaysAsItIsWithLyricsOffAndInTheEditorsHands) {
+    open();
+    write(4, "Am", "one");
+    write(8, "C", "two");
+    frmComposer->chkLyrics.setValue(0);
+    moveTo(1);
+    clickPlay();
+    crank(4s);
+    EXPECT_EQ(shown(), QStringLiteral("C|two"));
+    clickStop();
+    frmComposer->chkLyrics.setValue(1);
+    moveTo(5);
+    clickPlay();
+    frmLyrics->resetLyricsArray();
+    crank(4s);
+    EXPECT_EQ(shown(), QStringLiteral("Am|one"));
+}
+
+TEST_F(LyricsInRecorder, PlayAsksWhatToDoWithTypedWords) {
+    open();
+    write(4, "Am", "one");
+    moveTo(10);
+    type("Em", "uno");
+    clickPlayAnswering(vbCancel);
+    EXPECT_TRUE(frmComposer->playing());
+    EXPECT_EQ(shown(), QStringLiteral("Am|one")) << "the start of the song shows its line";
+    clickStop();
+    type("Em", "uno");
+    clickPlayAnswering(vbNo);
+    EXPECT_EQ(lyricFile(), "000705600::Em::uno\r\n");
+    clickStop();
+    type("D", "two");
+    clickPlayAnswering(vbYes);
+    EXPECT_EQ(lyricFile(), "000705600::Em::uno\r\n001764000::D::two\r\n");
+    frmComposer->cmdRhyme.setValue(true);
+    EXPECT_TRUE(frmComposer->playing() && frmDictionary->Visible()) << "rhymes are looked for while the song runs";
+}
+
+TEST_F(LyricsInRecorder, UpdateChangesTheLineThatWasOnShowAndNeverBlanksOne) {
+    open();
+    write(4, "Am", "one");
+    moveTo(5);
+    write(10, "C", "two");
+    type("G", "uno");
+    frmComposer->cmdLyricUpdate.setValue(true);
+    EXPECT_EQ(lyricFile(), "000705600::G::uno\r\n001764000::C::two\r\n") << "an insert leaves what is on show";
+    type("D", " ");
+    desk().willAnswer(vbOK);
+    frmComposer->cmdLyricUpdate.setValue(true);
+    expectBoxes(
+        Box{QStringLiteral("You can only update lyrics that are currently displayed. Type the lyrics and use the "
+                           "\"INSERT\" button to add for the first time.")});
+    EXPECT_EQ(lyricFile(), "000705600::G::uno\r\n001764000::C::two\r\n");
+}
+
+TEST_F(LyricsInRecorder, ViewStopsTheSongAndShowsTheLinesOfThisSongOnly) {
+    QFile file(path(QStringLiteral("songs/My Song.txt")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("705600::Am::one\r\n");
+    file.close();
+    open();
+    clickPlay();
+    crank(1s);
+    frmComposer->cmdViewLyrics.setValue(true);
+    EXPECT_FALSE(frmComposer->playing());
+    EXPECT_TRUE(frmLyrics->Visible());
+    EXPECT_EQ(frmLyrics->lstLyrics.List(0), QStringLiteral("one"));
+    frmComposer.Unload();
+    EXPECT_FALSE(frmLyrics.isLoaded());
+    EXPECT_EQ(gLyrics.size(), 1U);
+    EXPECT_EQ(lyricFile(), "705600::Am::one\r\n");
+}
+
+TEST_F(LyricsInRecorder, ABlankIsTypedIntoTheWordsAndDoesNotPlay) {
+    open();
+    frmComposer->window().activateWindow();
+    frmComposer->txtLyrics.SetFocus();
+    for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress}) {
+        QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
+        QApplication::sendEvent(frmComposer->txtLyrics.widget(), &event);
+    }
+    EXPECT_EQ(frmComposer->txtLyrics.Text(), QStringLiteral(" "));
+    EXPECT_FALSE(frmComposer->playing());
+}
+
+}  // namespace
+}  // namespace lyrebrook
