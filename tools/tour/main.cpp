@@ -25,6 +25,7 @@ void walk(const QString& folder) {
     chooseBacktrack(tour);
     recordBacktrack(tour);
     singVoices(tour);
+    writeLyrics(tour);
     findRhymes(tour);
     makeDemo(tour);
     showSite(tour);

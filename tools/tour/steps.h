@@ -10,6 +10,7 @@ void createSong(Tour& tour);
 void chooseBacktrack(Tour& tour);
 void recordBacktrack(Tour& tour);
 void singVoices(Tour& tour);
+void writeLyrics(Tour& tour);
 void findRhymes(Tour& tour);
 void makeDemo(Tour& tour);
 void showSite(Tour& tour);
