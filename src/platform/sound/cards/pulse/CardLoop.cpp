@@ -107,8 +107,9 @@ void CardLoop::tellSounded(CardMoment now) {
 }
 
 void CardLoop::report(CardMoment now) {
-    if (output_.streaming()) lastHeard_ = now;
-    if (!inputWanted(now) || kind_ == RecordingSource::Kind::ownOutput || input_.arriving(now)) lastArrived_ = now;
+    if (output_.streaming() || output_.wakingUp(now)) lastHeard_ = now;
+    const bool mayBeSilent = !inputWanted(now) || kind_ == RecordingSource::Kind::ownOutput || !output_.streaming();
+    if (mayBeSilent || input_.arriving(now)) lastArrived_ = now;
     share_.outputs.store(server_.outputs());
     share_.underruns.store(output_.underruns());
     share_.lostInput.store(input_.lost());

@@ -10,7 +10,12 @@ namespace {
 constexpr std::chrono::milliseconds pauseBetweenAttempts{300};
 
 /// A server that asks for no sound for so long doesn't play.
-constexpr std::chrono::milliseconds longestSilenceOfServer{500};
+constexpr std::chrono::milliseconds longestSilenceOfServer(bool hasPlayed) {
+    return std::chrono::milliseconds(hasPlayed ? 500 : 250);
+}
+
+/// Longer than any sink needs for the silence that it plays first.
+constexpr std::chrono::seconds longestWaking{5};
 
 /// How far the clock mixes ahead of what sounds, about as far as a stream does.
 constexpr double clockLead = framesPerSecond / 50.0;
@@ -36,8 +41,7 @@ void PulseOutput::begin(CardMoment now) {
 
 void PulseOutput::keepUp(pa_context* server, CardMoment now) {
     if (stream_ != nullptr) watch();
-    const bool silent = streaming_ && now - requested_ > longestSilenceOfServer;
-    if (silent) standStill();
+    if (streaming_ && now - requested_ > longestSilenceOfServer(hasBegun())) standStill(now);
     if (stream_ == nullptr && server != nullptr && now - tried_ > pauseBetweenAttempts) open(*server, now);
     if (!streaming_) goOnByTheClock(now);
 }
@@ -111,16 +115,26 @@ std::size_t PulseOutput::startStream(std::size_t requested, CardMoment now) {
     gapDue_ += static_cast<Frames>(requested - wanted);
     base_ = mixer_.mixed() - written_;
     started_ = now;
-    sounding_.restart(now, sounding_.at(now));
+    byTheClock_ = {now, sounding_.at(now)};
+    sounding_.restart(now, byTheClock_.position);
     told_ = {};
     return wanted;
 }
 
 /// A stream that has played and then stood still may stay silent, or play on too late for ever; a new one doesn't. One
-/// that has hardly begun is waited for, because some sinks have seconds of silence to play first.
-void PulseOutput::standStill() {
+/// that has hardly begun is waited for, because some sinks have seconds of silence to play first. The timeline doesn't
+/// wait for those.
+void PulseOutput::standStill(CardMoment now) {
     streaming_ = false;
-    if (written_ > framesPerSecond / 2) leftBehind_ = true;
+    if (hasBegun()) {
+        leftBehind_ = true;
+    } else {
+        sounding_.restart(now, byTheClock_.position + framesIn(now - byTheClock_.at));
+    }
+}
+
+bool PulseOutput::wakingUp(CardMoment now) const {
+    return stream_ != nullptr && !leftBehind_ && written_ > 0 && now - started_ < longestWaking;
 }
 
 void PulseOutput::goOnByTheClock(CardMoment now) {

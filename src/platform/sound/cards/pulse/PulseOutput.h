@@ -30,6 +30,9 @@ class PulseOutput {
     /// A stream is there and takes sound.
     bool streaming() const { return streaming_; }
 
+    /// A stream was made of late and has not been heard yet.
+    bool wakingUp(CardMoment now) const;
+
     /// The place of the timeline that sounds at that moment.
     double soundingAt(CardMoment moment) const { return sounding_.at(moment); }
 
@@ -51,7 +54,8 @@ class PulseOutput {
     void watch();
     void takeRequest(std::size_t bytes);
     std::size_t write(std::size_t frames, Frames gap);
-    void standStill();
+    bool hasBegun() const { return written_ > framesPerSecond / 2; }
+    void standStill(CardMoment now);
     std::size_t startStream(std::size_t requested, CardMoment now);
     Frames bufferFrames() const { return wholeFrames(bufferBytes(length_)); }
     void goOnByTheClock(CardMoment now);
@@ -62,6 +66,7 @@ class PulseOutput {
     PulseHandle<pa_stream> stream_;
     StreamSight told_;
     StreamPosition sounding_;
+    StreamSight byTheClock_;  // where the timeline stood when the server last began to ask for sound
     bool streaming_ = false;
     bool leftBehind_ = false;
     Frames written_ = 0;  // frames of the stream, those skipped too
