@@ -6,11 +6,9 @@
 #include <cmath>
 
 #include "backtrack/FrmMixer.h"
-#include "integration/support/ServerDesk.h"
-#include "platform/directx/DirectX8.h"
+#include "integration/support/ServerStudio.h"
 #include "platform/music/MidiBytes.h"
 #include "shell/modConfig.h"
-#include "support/CrankedStudio.h"
 
 namespace lyrebrook {
 namespace {
@@ -45,56 +43,32 @@ double bestLikeness(const Sound& one, const Sound& other) {
     return best;
 }
 
-/// The recorder of backtracks with a song of one scale.
-class Recorder {
-  public:
-    Recorder() {
-        gSongName = QStringLiteral("My Song");
-        gBacktrackFile = studio.path(QStringLiteral("tracks/scale.mid"));
-        QFile file(gBacktrackFile);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromStdString(scale()));
-    }
-
-    static bool isReady() { return frmMixer->cmdPlay.Enabled() && !frmMixer->cmdStop.Enabled(); }
-    Sound recorded() const { return framesOf(gSongsFolder + gSongName + QStringLiteral("_1.wav")); }
-
-  private:
-    QTemporaryDir folder_;
-
-  public:
-    CrankedStudio studio{folder_.path()};
-};
+/// Gives the backtrack recorder a scale, and has it record that to its end.
+using Until = std::function<bool(const std::function<bool()>& done, std::chrono::milliseconds limit)>;
+Sound recordTheScale(const CrankedStudio& studio, const Until& until) {
+    gSongName = QStringLiteral("My Song");
+    gBacktrackFile = studio.path(QStringLiteral("tracks/scale.mid"));
+    QFile file(gBacktrackFile);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromStdString(scale()));
+    file.close();
+    frmMixer.Show();
+    until([] { return false; }, 1s);
+    frmMixer->cmdPlay.setValue(true);
+    EXPECT_TRUE(until([] { return frmMixer->cmdPlay.Enabled() && !frmMixer->cmdStop.Enabled(); }, 30s))
+        << "the backtrack's end ends its recording";
+    return framesOf(trackFilePath(1));
+}
 
 Sound recordedOnTheEmbeddedCard() {
-    Recorder recorder;
-    frmMixer.Show();
-    frmMixer->cmdPlay.setValue(true);
-    EXPECT_TRUE(recorder.studio.crankUntil([] { return Recorder::isReady(); }, 60s));
-    return recorder.recorded();
+    const QTemporaryDir folder;
+    CrankedStudio studio(folder.path());
+    return recordTheScale(studio, [&studio](const auto& done, auto limit) { return studio.crankUntil(done, limit); });
 }
 
 Sound recordedOnAServer(ServerKind kind) {
-    SoundServer server(kind);
-    server.start();
-    Recorder recorder;
-    auto card = std::make_unique<PulseCard>();
-    EXPECT_TRUE(card->reachServer(1s));
-    SoundSystem::install(std::move(card));
-    const auto live = [&recorder](const std::function<bool()>& done, std::chrono::milliseconds limit) {
-        return waitUntil(
-            [&] {
-                DirectX8::deliverPendingEvents();
-                recorder.studio.desk().advanceTime(5);
-                return done();
-            },
-            limit);
-    };
-    frmMixer.Show();
-    live([] { return false; }, 1s);
-    frmMixer->cmdPlay.setValue(true);
-    EXPECT_TRUE(live([] { return Recorder::isReady(); }, 30s)) << "the backtrack's end ends its recording";
-    return recorder.recorded();
+    ServerStudio desk(kind);
+    return recordTheScale(desk.studio, [&desk](const auto& done, auto limit) { return desk.liveUntil(done, limit); });
 }
 
 class BacktrackOnAServer : public testing::TestWithParam<ServerKind> {};

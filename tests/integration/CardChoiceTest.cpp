@@ -1,12 +1,8 @@
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <cstdlib>
-#include <filesystem>
 
+#include "integration/support/MuteServer.h"
 #include "integration/support/SoundServer.h"
 #include "platform/sound/cards/PulseCard.h"
 #include "platform/sound/cards/VirtualCard.h"
@@ -16,24 +12,6 @@ namespace lyrebrook {
 namespace {
 
 using namespace std::chrono_literals;
-
-/// A socket that lets everybody in and never says a word.
-class MuteServer {
-  public:
-    explicit MuteServer(const std::filesystem::path& path) {
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        path.string().copy(address.sun_path, sizeof address.sun_path - 1);
-        EXPECT_EQ(bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-        EXPECT_EQ(listen(socket_, 4), 0);
-    }
-    ~MuteServer() { close(socket_); }
-    MuteServer(const MuteServer&) = delete;
-    MuteServer& operator=(const MuteServer&) = delete;
-
-  private:
-    int socket_ = socket(AF_UNIX, SOCK_STREAM, 0);
-};
 
 struct Choice {
     bool pulse = false;

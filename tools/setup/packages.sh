@@ -10,7 +10,10 @@ test_packages=(
     chromium chromium-driver sox
     dbus pipewire pipewire-pulse pulseaudio pulseaudio-utils wireplumber
 )
-bench_packages=(cmt ecasound googletest libgmock-dev libgtest-dev sox)
+bench_packages=(
+    cmt ecasound googletest libgmock-dev libgtest-dev sox
+    dbus pipewire pipewire-pulse pulseaudio pulseaudio-utils wireplumber x11-utils xauth xvfb
+)
 
 # install_packages NAME...: installs those that are missing and says so; asks for nothing where all are there.
 install_packages() {

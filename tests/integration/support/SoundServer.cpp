@@ -119,10 +119,10 @@ std::string SoundServer::control(const std::string& command) const {
     return text;
 }
 
-std::string SoundServer::moduleOf(const std::string& sinkName) const {
+std::string SoundServer::moduleOf(const std::string& deviceName) const {
     std::istringstream modules(control("list short modules"));
     for (std::string line; std::getline(modules, line);) {
-        if (line.find("sink_name=" + sinkName) != std::string::npos) return line.substr(0, line.find('\t'));
+        if (line.find("_name=" + deviceName) != std::string::npos) return line.substr(0, line.find('\t'));
     }
     return {};
 }

@@ -39,8 +39,8 @@ class SoundServer {
     /// A command of `pactl`; tells what it answered. What a command fails with is an empty answer.
     std::string control(const std::string& command) const;
 
-    /// Number of the module that made a sink.
-    std::string moduleOf(const std::string& sinkName) const;
+    /// Number of the module that made a sink or a source.
+    std::string moduleOf(const std::string& deviceName) const;
 
     /// Processor time that the server has used.
     double processorSeconds() const;

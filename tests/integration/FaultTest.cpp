@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#include "backtrack/FrmMixer.h"
+#include "integration/support/ServerStudio.h"
+#include "recorder/FrmComposer.h"
+#include "shell/modConfig.h"
+
+namespace lyrebrook {
+namespace {
+
+constexpr const char* source = "mic";
+
+void loadSource(ServerStudio& desk) {
+    desk.server.control(std::string("load-module module-remap-source source_name=") + source +
+                        " master=" + SoundServer::sink + ".monitor");
+}
+
+/// Something that happens to a recording, how it is put right, and what the screen tells about it.
+struct Fault {
+    const char* name;
+    void (*strike)(ServerStudio& desk);
+    void (*mend)(ServerStudio& desk);
+    const char* loss;
+    const char* back;
+};
+
+const Fault serverKilled{"serverKilled", [](ServerStudio& desk) { desk.server.kill(); },
+                         [](ServerStudio& desk) {
+                             desk.server.start();
+                             loadSource(desk);
+                         },
+                         "The sound card is gone. What was recorded is kept.", "The sound card is back."};
+
+const Fault sourceUnloaded{
+    "sourceUnloaded", [](ServerStudio& desk) { desk.server.control("unload-module " + desk.server.moduleOf(source)); },
+    loadSource, "The recording source is gone. What was recorded is kept.", "The recording source is back."};
+
+const Fault otherDefault{"otherDefault",
+                         [](ServerStudio& desk) {
+                             desk.server.control("load-module module-null-sink sink_name=other");
+                             desk.server.control("set-default-source other.monitor");
+                         },
+                         [](ServerStudio&) {}, "", ""};
+
+/// A recording screen, as the same session goes at both.
+struct Screen {
+    const char* name;
+    int track;
+    void (*open)();
+    void (*record)();
+    void (*stop)();
+    QString (*notice)();
+};
+
+const Screen step3{"step3",
+                   1,
+                   [] { frmMixer.Show(); },
+                   [] { frmMixer->cmdPlay.setValue(true); },
+                   [] { frmMixer->cmdStop.setValue(true); },
+                   [] { return frmMixer->lblNotice.Caption(); }};
+
+const Screen step4{"step4",
+                   2,
+                   [] { frmComposer.Show(); },
+                   [] { frmComposer->cmdRecord.setValue(true); },
+                   [] { frmComposer->cmdStop.setValue(true); },
+                   [] { return frmComposer->lblNotice.Caption(); }};
+
+struct Clicks {
+    int due = 0;
+    int heard = 0;
+};
+
+constexpr Frames tolerance = framesPerSecond * 30 / 1000;
+
+/// The clicks that a recording ought to hold in a part of it, and those that it holds in their places.
+Clicks clicksIn(const Sound& sound, Frames from, Frames to) {
+    Clicks found;
+    for (Frames click = (from + clickDistance - 1) / clickDistance * clickDistance; click < to;
+         click += clickDistance) {
+        const auto first = sound.begin() + std::max<Frames>(0, click - tolerance);
+        const auto last = sound.begin() + std::min(static_cast<Frames>(sound.size()), click + tolerance);
+        ++found.due;
+        if (std::any_of(first, last, [](StereoFrame frame) { return frame.left > 4000; })) ++found.heard;
+    }
+    return found;
+}
+
+/// Those of its last second.
+Clicks lastClicks(const Sound& sound) {
+    const Frames end = static_cast<Frames>(sound.size()) - tolerance;
+    return clicksIn(sound, end - framesPerSecond, end);
+}
+
+class Faults : public testing::TestWithParam<std::tuple<ServerKind, Fault, Screen>> {
+  protected:
+    Faults() {
+        loadSource(desk);
+        desk.card->selectSource({.kind = RecordingSource::Kind::named, .name = source});
+        gBacktrackFile = desk.studio.path(QStringLiteral("tracks/clicks.wav"));
+        for (const QString& file : {gBacktrackFile, trackFilePath(1)}) {
+            writeWaveFile(file.toStdString(), clicks(60 * framesPerSecond));
+        }
+        screen.open();
+        desk.live(1s);
+    }
+
+    bool tells(const char* text) {
+        return desk.liveUntil([&] { return screen.notice() == QString::fromLatin1(text); }, 8s);
+    }
+
+    Sound recorded() const { return framesOf(trackFilePath(screen.track)); }
+
+    const Fault& fault = std::get<1>(GetParam());
+    const Screen& screen = std::get<2>(GetParam());
+    ServerStudio desk{std::get<0>(GetParam())};
+};
+
+TEST_P(Faults, LeaveTheTakeWholeAndTheNextOneToo) {
+    screen.record();
+    desk.live(2100ms);
+    fault.strike(desk);
+    EXPECT_TRUE(tells(fault.loss));
+    desk.live(1s);
+    fault.mend(desk);
+    EXPECT_TRUE(tells(fault.back));
+    desk.live(2500ms);
+    screen.stop();
+    const Sound take = recorded();
+    const Clicks kept = clicksIn(take, tolerance, 2 * framesPerSecond + tolerance);
+    const Clicks afterwards = lastClicks(take);
+    EXPECT_EQ(kept.heard, kept.due);
+    EXPECT_EQ(afterwards.heard, afterwards.due) << "the same take goes on";
+    const Clicks all = clicksIn(take, tolerance, static_cast<Frames>(take.size()) - tolerance);
+    EXPECT_EQ(all.heard == all.due, *fault.loss == 0) << "a hole only where something was lost";
+
+    screen.record();
+    desk.live(1500ms);
+    screen.stop();
+    const Clicks again = lastClicks(recorded());
+    EXPECT_EQ(again.heard, again.due);
+    std::printf("FAULT %s %s %s kept %d of %d, goes on %d of %d, again %d of %d\n",
+                nameOf(std::get<0>(GetParam())).c_str(), fault.name, screen.name, kept.heard, kept.due,
+                afterwards.heard, afterwards.due, again.heard, again.due);
+}
+
+INSTANTIATE_TEST_SUITE_P(Servers, Faults,
+                         testing::Combine(testing::Values(ServerKind::pulseAudio, ServerKind::pipeWire),
+                                          testing::Values(serverKilled, sourceUnloaded, otherDefault),
+                                          testing::Values(step3, step4)),
+                         [](const auto& test) {
+                             return nameOf(std::get<0>(test.param)) + std::get<1>(test.param).name +
+                                    std::get<2>(test.param).name;
+                         });
+
+}  // namespace
+}  // namespace lyrebrook
