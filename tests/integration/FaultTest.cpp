@@ -121,7 +121,7 @@ class Faults : public testing::TestWithParam<std::tuple<ServerKind, Fault, Scree
 
 TEST_P(Faults, LeaveTheTakeWholeAndTheNextOneToo) {
     screen.record();
-    desk.live(2100ms);
+    desk.live(2300ms);
     fault.strike(desk);
     EXPECT_TRUE(tells(fault.loss));
     desk.live(1s);
