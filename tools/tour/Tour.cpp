@@ -18,26 +18,40 @@ int peakOf(std::span<const StereoFrame> frames) {
     return peak;
 }
 
+/// As a desktop at 200 percent shows it.
+QPixmap doubled(QMainWindow& window) {
+    constexpr int scale = 2;
+    QPixmap picture(window.size() * scale);
+    picture.setDevicePixelRatio(scale);
+    window.render(&picture);
+    return picture;
+}
+
 }  // namespace
 
 Tour::Tour(const QString& folder)
     : folder_(QFileInfo(folder).absoluteFilePath()),
+      screens_(folder_ + QStringLiteral("/screens/")),
       studio_(folder_ + QStringLiteral("/Lyrebrook")),
       report_(folder_ + QStringLiteral("/report.txt")) {
     require(report_.open(QIODevice::WriteOnly), QStringLiteral("the report can be written"));
 }
 
 QString Tour::nextPicture(const QString& name) {
-    return QStringLiteral("%1/screens/%2-%3.png").arg(folder_).arg(++pictures_, 2, 10, QChar(u'0')).arg(name);
+    return QStringLiteral("%1-%2.png").arg(++pictures_, 2, 10, QChar(u'0')).arg(name);
 }
 
 void Tour::picture(Form& form, const QString& name) {
     QCoreApplication::processEvents();
-    require(form.window().grab().save(nextPicture(name)), QStringLiteral("a picture of ") + name);
+    QMainWindow& window = form.window();
+    const QString file = nextPicture(name);
+    const bool saved =
+        window.grab().save(screens_ + file) && doubled(window).save(screens_ + QStringLiteral("200/") + file);
+    require(saved, QStringLiteral("a picture of ") + name);
 }
 
 void Tour::picture(const QByteArray& png, const QString& name) {
-    QFile file(nextPicture(name));
+    QFile file(screens_ + nextPicture(name));
     require(file.open(QIODevice::WriteOnly) && file.write(png) == png.size(), QStringLiteral("a picture of ") + name);
 }
 

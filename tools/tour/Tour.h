@@ -19,7 +19,8 @@ class Tour {
     CrankedStudio& studio() { return studio_; }
     ScriptedDesktop& desk() { return studio_.desk(); }
 
-    /// A picture of a form as it stands: screens/NN-name.png, numbered in the order of the walk.
+    /// A picture of a form as it stands: screens/NN-name.png, numbered in the order of the walk, and the same in
+    /// screens/200 as it is at 200 percent.
     void picture(Form& form, const QString& name);
 
     /// The same of something that made its own picture.
@@ -41,6 +42,7 @@ class Tour {
     QString nextPicture(const QString& name);
 
     QString folder_;
+    QString screens_;
     CrankedStudio studio_;
     QFile report_;
     int pictures_ = 0;

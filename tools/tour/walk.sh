@@ -6,6 +6,6 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 source tools/setup/layout.sh
 
 rm -rf build/tour
-mkdir -p build/tour/screens
+mkdir -p build/tour/screens/200
 lay_out "$1" build/tour/Lyrebrook
 QT_QPA_PLATFORM=offscreen "$1/bin/tour" build/tour
