@@ -82,8 +82,8 @@ QRectF CanvasView::pictureArea() const {
 
 void CanvasView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    if (background_.isValid()) painter.fillRect(rect(), background_);  // whole pixels, at any scale
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (background_.isValid()) painter.fillRect(rect(), background_);
     if (!picture_.isNull()) painter.drawImage(pictureArea(), picture_);
     if (painting_) {
         painter.save();
