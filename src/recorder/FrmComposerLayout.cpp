@@ -2,6 +2,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/forms/Theme.h"
 #include "recorder/FrmComposer.h"
 #include "recorder/levelBarPictures.h"
 #include "recorder/noticeLine.h"
@@ -80,6 +81,18 @@ QHBoxLayout* rowIn(Frame& frame) {
     row->setContentsMargins(2, 0, 2, 0);
     row->setSpacing(6);
     return row;
+}
+
+/// Room of its own for a label that changes with every tick: of a settled size, so that the screen isn't laid out anew
+/// each time, and opaque, so that nothing under it is painted.
+QWidget* plateUnder(Label& label) {
+    auto* plate = new QWidget;
+    plate->setAutoFillBackground(true);
+    plate->setPalette(QPalette(theme::panel));
+    label.setContainer(plate);
+    label.widget()->setFixedSize(label.widget()->sizeHint());
+    plate->setFixedSize(label.widget()->size());
+    return plate;
 }
 
 QString decibels(double value) {
@@ -208,9 +221,7 @@ QBoxLayout* FrmComposer::layOutTransport() {
 
     lblHMS.setLook(Look::readout);
     lblHMS.setAlignment(Qt::AlignCenter);
-    lblHMS.widget()->setFixedSize(lblHMS.widget()->sizeHint());  // a new time doesn't lay out the screen anew
-    auto* duration = rowIn(Frame4);
-    duration->addWidget(lblHMS);
+    rowIn(Frame4)->addWidget(plateUnder(lblHMS));
     Frame4.widget()->setMinimumWidth(178);
 
     makeRecordingPlate(lblRecording);
