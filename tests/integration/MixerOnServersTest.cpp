@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "integration/support/LevelMover.h"
 #include "integration/support/ServerDesk.h"
 #include "platform/winmm/MixerDesk.h"
 
@@ -117,6 +118,22 @@ TEST_P(MixerOnServers, ADefaultSourceThatSomebodyChoseMovesTheSelection) {
     sound.server.control("set-sink-mute desk 1");
     EXPECT_TRUE(hears(master, mute, {1}));
     EXPECT_EQ(desk->selected(), "Song Mix") << "the song's own output is not for others to take away";
+}
+
+TEST_P(MixerOnServers, AThousandChangesASecondAreFewMessagesAndEndRight) {
+    constexpr std::chrono::milliseconds length{1000};
+    const auto begun = std::chrono::steady_clock::now();
+    std::jthread mover([] { moveLevel(SoundServer::sink, 1000, length); });
+    std::size_t messages = 0;
+    const auto listen = [&] {
+        messages += ListeningWindow::listen().size();
+        return std::chrono::steady_clock::now() - begun > length &&
+               desk->get(master, volume, 2) == std::vector{half, half};
+    };
+    EXPECT_TRUE(waitUntil(listen, 10s));
+    const auto looks = (std::chrono::steady_clock::now() - begun) / 20ms;
+    EXPECT_GT(messages, 10U);
+    EXPECT_LE(messages, static_cast<std::size_t>(looks) + 2);
 }
 
 TEST_P(MixerOnServers, ASourceThatGoesAwayTakesNothingAlong) {
