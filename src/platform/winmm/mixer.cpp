@@ -245,7 +245,7 @@ MMRESULT mixerSetControlDetails(HMIXER mixer, const MIXERCONTROLDETAILS& details
     const MixerControlInfo* const info = findControl(open->device->layout(), place);
     if (info == nullptr) return MIXERR_INVALCONTROL;
     auto values = open->device->read(place);
-    if (!values) return MMSYSERR_NODRIVER;
+    if (!values || values->empty()) return MMSYSERR_NODRIVER;
     const ValueShape shape = shapeOf(details, *info, values->size());
     if (shape == ValueShape::wrong) return MMSYSERR_INVALPARAM;
     std::int32_t first = 0;

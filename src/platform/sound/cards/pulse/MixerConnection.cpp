@@ -59,7 +59,8 @@ MixerConnection::~MixerConnection() {
 
 bool MixerConnection::waitForPicture(std::chrono::milliseconds limit) {
     std::unique_lock lock(mutex_);
-    return told_.wait_for(lock, limit, [this] { return picture_->connection > 0; });
+    told_.wait_for(lock, limit, [this] { return picture_->connection > 0 || refused_; });
+    return picture_->connection > 0;
 }
 
 std::shared_ptr<const ServerPicture> MixerConnection::picture() const {
@@ -114,9 +115,10 @@ void MixerConnection::keepUp(CardMoment now) {
     {
         const std::lock_guard lock(mutex_);
         connected_ = ready;
+        refused_ = server_.failed();
         if (!ready) orders_.clear();
     }
-    if (!ready) return;
+    if (!ready) return told_.notify_all();
     sendOrders();
     if (stale_ && !asking_ && now - asked_ >= pauseBetweenQuestions) ask(now);
 }

@@ -47,7 +47,7 @@ class MixerConnection {
     MixerConnection(const MixerConnection&) = delete;
     MixerConnection& operator=(const MixerConnection&) = delete;
 
-    /// Waits until the server has told of itself, at most for `limit`.
+    /// Waits until the server has told of itself, at most for `limit`, and not at all for one that isn't there.
     bool waitForPicture(std::chrono::milliseconds limit);
 
     std::shared_ptr<const ServerPicture> picture() const;
@@ -93,6 +93,7 @@ class MixerConnection {
     std::vector<Order> orders_;
     std::uint64_t given_ = 0;
     bool connected_ = false;
+    bool refused_ = false;
 
     std::mutex watchersMutex_;
     std::vector<Watch> watchers_;
