@@ -82,6 +82,8 @@ void recordFinalMix(Tour& tour) {
     frmComposer->cmdHome.setValue(true);
     frmComposer->cmdRecEnable[finalMix].setValue(true);
     frmComposer->cmdRecord.setValue(true);
+    tour.studio().crank(20s);
+    tour.picture(*frmComposer, QStringLiteral("recorder-recording-the-mix"));  // scrolled to the lower rows
     const bool ended = tour.studio().crankUntil([] { return frmComposer->cbRecord.Value() == 0; }, 420s);
     tour.require(ended, QStringLiteral("the end of the song ends the final mix"));
     tour.picture(*frmComposer, QStringLiteral("recorder-final-mix"));
