@@ -45,6 +45,7 @@ FrmLyrics::FrmLyrics()
 void FrmLyrics::layOut() {
     lblTitle.setLook(Look::title);
     lblTitle.setElided();
+    Frame1.setLook(Look::bare);
     Label4.setLook(Look::hint);
     Label4.setWordWrap(true);
     lstLyrics.setBackColor(black);
@@ -57,6 +58,7 @@ void FrmLyrics::layOut() {
     for (CommandButton* button : {&cmdDelete, &cmdClear}) button->setLook(Look::danger);
 
     auto* lines = new QVBoxLayout(Frame1.widget());
+    lines->setContentsMargins(0, 0, 0, 0);
     lines->addWidget(lstLyrics);
     auto* column = new QVBoxLayout(content());
     column->setContentsMargins(24, 20, 24, 20);

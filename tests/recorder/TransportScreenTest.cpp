@@ -68,6 +68,8 @@ TEST_F(TransportScreen, SpaceAndHomeAreTheTransportsWhereverTheFocusIs) {
     EXPECT_FALSE(recording()) << "a focused button doesn't see it";
     press(frmComposer->sldOffset, Qt::Key_Space);
     EXPECT_FALSE(frmComposer->playing());
+    press(frmComposer->txtLyrics, Qt::Key_Space);
+    EXPECT_FALSE(frmComposer->playing()) << "words are typed with it";
     press(frmComposer->sMaster, Qt::Key_Home);
     EXPECT_EQ(time(), QStringLiteral("00:00.00"));
 }

@@ -20,9 +20,9 @@ struct WrittenLine {
 };
 
 constexpr WrittenLine lines[] = {{4, "D", "Walking down the river road"},
-                          {8, "G", "Evening takes the heavy load"},
-                          {12, "Bm7", "Every window has a light"},
-                          {16, "A", "Sing me thruogh another night"}};
+                                 {8, "G", "Evening takes the heavy load"},
+                                 {12, "Bm7", "Every window has a light"},
+                                 {16, "A", "Sing me thruogh another night"}};
 
 /// Stops at the place, types, and ties the words to it.
 void write(const WrittenLine& line) {
