@@ -150,7 +150,10 @@ TEST(Capture, WhatCannotBeMetIsAnError) {
 class ScriptedCard final : public SoundCard {
   public:
     void start(SoundCardClient& client) override { client_ = &client; }
-    void stop() override { client_ = nullptr; }
+    void stop() override {
+        if (thread_.joinable()) thread_.join();
+        client_ = nullptr;
+    }
     void openInput() override {}
     void closeInput() override {}
     std::int32_t outputCount() const override { return 1; }
