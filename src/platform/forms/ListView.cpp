@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 #include <utility>
 
 #include "platform/forms/Boundary.h"
@@ -13,10 +14,22 @@ void tell(const std::function<void()>& listener) {
     if (listener) fromQt(listener);
 }
 
+/// Shows the beginning of a line that is wider than any screen: to lay out megabytes takes Qt half a minute.
+class LineBeginnings final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& line, const QLocale& locale) const override {
+        constexpr qsizetype mostCharacters = 2000;
+        return QStyledItemDelegate::displayText(line.toString().left(mostCharacters), locale);
+    }
+};
+
 }  // namespace
 
 ListView::ListView(QWidget* container) : QListWidget(container) {
     setUniformItemSizes(true);
+    setItemDelegate(new LineBeginnings(this));
 }
 
 int ListView::selectedLine() const {
