@@ -19,10 +19,10 @@ struct WrittenLine {
     const char* words;
 };
 
-constexpr WrittenLine lines[] = {{4, "D", "Walking down the river road"},
+constexpr WrittenLine lines[] = {{4, "D", "Walking down the rivre road"},
                                  {8, "G", "Evening takes the heavy load"},
                                  {12, "Bm7", "Every window has a light"},
-                                 {16, "A", "Sing me thruogh another night"}};
+                                 {16, "A", "Sing me through another night"}};
 
 /// Stops at the place, types, and ties the words to it.
 void write(const WrittenLine& line) {
@@ -52,11 +52,11 @@ void playOver(Tour& tour) {
 
 void correctInEditor(Tour& tour) {
     frmComposer->cmdViewLyrics.setValue(true);
-    frmLyrics->lstLyrics.setListIndex(3);
-    frmLyrics->txtLine.setText(QStringLiteral("Sing me through another night"));
+    frmLyrics->lstLyrics.setListIndex(0);
+    frmLyrics->txtLine.setText(QStringLiteral("Walking down the river road"));
     tour.picture(*frmLyrics, QStringLiteral("lyric-editor"));
     frmLyrics->cmdUpdate.setValue(true);
-    tour.require(frmLyrics->lstLyrics.List(3) == QStringLiteral("Sing me through another night"),
+    tour.require(frmLyrics->lstLyrics.List(0) == QStringLiteral("Walking down the river road"),
                  QStringLiteral("the line is corrected"));
     frmLyrics->cmdClose.setValue(true);
 }
