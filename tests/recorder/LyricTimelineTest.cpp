@@ -44,6 +44,8 @@ TEST_F(LyricsInRecorder, EachLineIsShownItsLeadBeforeThePlaceWhereItWasWritten) 
     }
     crank(10s);
     EXPECT_EQ(shown(), QStringLiteral("G|")) << "nothing clears the last line";
+    moveTo(1);
+    EXPECT_EQ(shown(), QStringLiteral("G|")) << "a jump of the running song doesn't seek";
     clickStop();
     moveTo(6);
     EXPECT_EQ(shown(), QStringLiteral("Am|Walking down the road")) << "the line that the cursor stands in";
