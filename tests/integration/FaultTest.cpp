@@ -74,6 +74,9 @@ struct Clicks {
     int heard = 0;
 };
 
+/// A null sink that comes back plays up to so much silence first.
+constexpr std::chrono::seconds longestWaking{2};
+
 constexpr Frames tolerance = framesPerSecond * 30 / 1000;
 
 /// The clicks that a recording ought to hold in a part of it, and those that it holds in their places.
@@ -127,7 +130,7 @@ TEST_P(Faults, LeaveTheTakeWholeAndTheNextOneToo) {
     desk.live(1s);
     fault.mend(desk);
     EXPECT_TRUE(tells(fault.back));
-    desk.live(2500ms);
+    desk.live(longestWaking + 1500ms);
     screen.stop();
     const Sound take = recorded();
     const Clicks kept = clicksIn(take, tolerance, 2 * framesPerSecond + tolerance);
