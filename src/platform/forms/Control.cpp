@@ -13,8 +13,9 @@ namespace lyrebrook {
 namespace {
 
 /// Names of `Look` in the style sheet.
-constexpr std::array lookNames = {"",       "title",   "heading", "hint",    "readout", "words", "notice",
-                                  "status", "primary", "danger",  "compact", "bare",    "page"};
+constexpr std::array lookNames = {"",       "title",  "heading",  "hint",      "readout", "words",
+                                  "notice", "status", "primary",  "danger",    "compact", "bare",
+                                  "page",   "strip",  "playback", "recording", "lamp"};
 
 /// A message box, a menu or another program that takes the focus for a while doesn't end what the user does here.
 bool staysInForm(const QEvent& event) {

@@ -15,18 +15,22 @@ namespace lyrebrook {
 /// What the theme gives a control beyond its kind.
 enum class Look {
     plain,
-    title,    ///< the name of a screen
-    heading,  ///< the name of a part of it
-    hint,     ///< a quiet line of explanation
-    readout,  ///< figures to be read from afar, on black
-    words,    ///< a box of words to be sung from, read from afar
-    notice,   ///< a line that a person has to see
-    status,   ///< a spaced-out word such as a transport's state
-    primary,  ///< the button that a screen is for
-    danger,   ///< a button that destroys
-    compact,  ///< a button without air, for one letter
-    bare,     ///< a frame that only holds together
-    page,     ///< a frame that fills the place under its tabs
+    title,      ///< the name of a screen
+    heading,    ///< the name of a part of it
+    hint,       ///< a quiet line of explanation
+    readout,    ///< figures to be read from afar, on black
+    words,      ///< a box of words to be sung from, read from afar
+    notice,     ///< a line that a person has to see
+    status,     ///< a spaced-out word such as a transport's state
+    primary,    ///< the button that a screen is for
+    danger,     ///< a button that destroys
+    compact,    ///< a button without air, for one letter
+    bare,       ///< a frame that only holds together
+    page,       ///< a frame that fills the place under its tabs
+    strip,      ///< a narrow frame of many side by side, and the small words in it
+    playback,   ///< a fader of what is heard
+    recording,  ///< a fader of what is recorded
+    lamp,       ///< a small box that is coloured by its state
 };
 
 /// A named object on a form. It owns one widget, unless the widget's container went first, and turns the widget's

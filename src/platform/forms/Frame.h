@@ -11,9 +11,18 @@ class Frame final : public Control {
 
     QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
+    /// A caption that is too wide loses its end, and is the tool tip then.
+    void setElided();
+
+  protected:
+    bool filter(QEvent& event) override;
+    void applyColours() override;
 
   private:
+    void showCaption();
+
     QString caption_;
+    bool elided_ = false;
 };
 
 }  // namespace lyrebrook

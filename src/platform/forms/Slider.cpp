@@ -1,6 +1,7 @@
 #include "platform/forms/Slider.h"
 
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "platform/forms/Boundary.h"
 #include "platform/forms/SliderView.h"
@@ -9,11 +10,7 @@ namespace lyrebrook {
 namespace {
 
 SliderView* newView(QWidget* container, Orientation orientation) {
-    if (orientation == Orientation::horizontal) return new SliderView(container, Qt::Horizontal);
-    auto* view = new SliderView(container, Qt::Vertical);
-    view->setInvertedAppearance(true);  // the minimum is at the top, and keys and wheel follow what the eye sees
-    view->setInvertedControls(true);
-    return view;
+    return new SliderView(container, orientation == Orientation::horizontal ? Qt::Horizontal : Qt::Vertical);
 }
 
 }  // namespace
@@ -45,22 +42,22 @@ SliderView& Slider::view() const {
     return as<SliderView>();
 }
 
-std::int32_t Slider::Min() const {
-    return view().minimum();
-}
-
 void Slider::setMin(std::int32_t min) {
-    const QSignalBlocker noSignal(widget());
-    view().setMinimum(min);
-}
-
-std::int32_t Slider::Max() const {
-    return view().maximum();
+    min_ = min;
+    applyRange();
 }
 
 void Slider::setMax(std::int32_t max) {
+    max_ = max;
+    applyRange();
+}
+
+void Slider::applyRange() {
     const QSignalBlocker noSignal(widget());
-    view().setMaximum(max);
+    view().setRange(std::min(min_, max_), std::max(min_, max_));
+    const bool minimumAtTop = view().orientation() == Qt::Vertical;  // keys and wheel follow what the eye sees
+    view().setInvertedAppearance(minimumAtTop != (max_ < min_));
+    view().setInvertedControls(minimumAtTop != (max_ < min_));
 }
 
 void Slider::setSmallChange(std::int32_t change) {

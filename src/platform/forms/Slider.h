@@ -13,7 +13,8 @@ enum class Orientation { horizontal, vertical };
 
 /// The user's hold on a number between `Min` and `Max`. A vertical slider has its `Min` at the top. `Change` comes when
 /// the value changes, by the user or from code; `Scroll` only when the user moves it by drag, key or wheel, before
-/// `Change`. New limits pull the value in without an event, and a value outside of them is cut.
+/// `Change`. New limits pull the value in without an event, and a value outside of them is cut. `Max` may lie below
+/// `Min`: the slider then runs the other way.
 class Slider final : public Control {
   public:
     /// In the order of the product's tables.
@@ -29,9 +30,9 @@ class Slider final : public Control {
     explicit Slider(QWidget* container, Orientation orientation = Orientation::horizontal);
     Slider(QWidget* container, Orientation orientation, const Range& range);
 
-    std::int32_t Min() const;
+    std::int32_t Min() const { return min_; }
     void setMin(std::int32_t min);
-    std::int32_t Max() const;
+    std::int32_t Max() const { return max_; }
     void setMax(std::int32_t max);
     void setSmallChange(std::int32_t change);
     void setLargeChange(std::int32_t change);
@@ -53,7 +54,10 @@ class Slider final : public Control {
 
   private:
     SliderView& view() const;
+    void applyRange();
 
+    std::int32_t min_ = 0;
+    std::int32_t max_ = 0;
     int tickStyle_ = 0;
 };
 
