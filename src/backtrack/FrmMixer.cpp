@@ -3,6 +3,9 @@
 #include <vector>
 
 #include "backtrack/BacktrackKind.h"
+#include "mixer/FrmVolumeMixer.h"
+#include "mixer/levelMeters.h"
+#include "mixer/masterMixer.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/files/App.h"
 #include "platform/files/FileContent.h"
@@ -38,6 +41,7 @@ void FrmMixer::connectHandlers() {
     on(sldTempo.Scroll, &FrmMixer::sldTempo_Change);
     on(cbEnableVU.Click, &FrmMixer::cbEnableVU_Click);
     on(Timer1.Tick, &FrmMixer::Timer1_Timer);
+    on(cmdMixer.Click, &FrmMixer::cmdMixer_Click);
     on(cmdHelp.Click, [] { frmIntro->openHelp(3); });
     on(btnEnd.Click, [] { frmMixer.Unload(); });
     on(segmentMessage_, &FrmMixer::DirectXEvent8_DXCallback);
@@ -76,6 +80,7 @@ void FrmMixer::Form_Activate() {
 
 void FrmMixer::Form_Unload() {
     Timer1.setEnabled(false);
+    frmVolumeMixer.Unload();
     leftVU.setVisible(false);
     rightVU.setVisible(false);
     StopVUCapture();
@@ -265,12 +270,20 @@ void FrmMixer::cbEnableVU_Click() {
                 QString::number(cbEnableVU.Value()));
 }
 
+void FrmMixer::cmdMixer_Click() {
+    if (playing) {
+        MsgBox(QStringLiteral("Window can not open while recording or playing!"));
+        return;
+    }
+    enterMasterMixer();
+}
+
 void FrmMixer::Timer1_Timer() {
     bars_.DecayVU();
     if (vuBuffer_) {
-        bars_.UpdateVU(*vuBuffer_);
+        feedLevelColumns(bars_.UpdateVU(*vuBuffer_));
     } else if (recordBuffer_) {
-        bars_.UpdateVU(*recordBuffer_);
+        feedLevelColumns(bars_.UpdateVU(*recordBuffer_));
     }
     showLevels(bars_, leftVU, rightVU);
     showNotice(notice_, recordBuffer_.get(), lblNotice);

@@ -48,7 +48,7 @@ class FrmMixer final : public Form, private DirectXEvent8 {
     Frame Frame5;
     PictureBox leftVU, rightVU;
     CheckBox cbEnableVU;
-    CommandButton cmdHelp, btnEnd;
+    CommandButton cmdMixer, cmdHelp, btnEnd;
     Timer Timer1{50};
 
     /// True from Record or Listen to Stop, whether sound plays or not.
@@ -67,6 +67,7 @@ class FrmMixer final : public Form, private DirectXEvent8 {
     void cmdListen_Click();
     void sldTempo_Change();
     void cbEnableVU_Click();
+    void cmdMixer_Click();
     void Timer1_Timer();
     void showState();
 

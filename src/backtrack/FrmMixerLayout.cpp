@@ -44,6 +44,7 @@ FrmMixer::FrmMixer()
       leftVU(Frame5),
       rightVU(Frame5),
       cbEnableVU(Frame5, {}, 1),
+      cmdMixer(content(), QStringLiteral("Adjust Recording Levels")),
       cmdHelp(content(), QStringLiteral("Help")),
       btnEnd(content(), QStringLiteral("Close")) {
     cmdPlay.setToolTipText(QStringLiteral("Click to record the background music for your song."));
@@ -77,6 +78,7 @@ void FrmMixer::layOut() {
     bottom->addWidget(chkSynth);
     bottom->addWidget(chkLoop);
     bottom->addStretch(1);
+    bottom->addWidget(cmdMixer);
     bottom->addWidget(cmdHelp);
     bottom->addWidget(btnEnd);
 
@@ -91,7 +93,8 @@ void FrmMixer::layOut() {
     column->addLayout(bottom);
     window().layout()->setSizeConstraint(QLayout::SetFixedSize);  // nothing here gains by more room
     QWidget::setTabOrder(cbEnableVU, chkSynth);
-    QWidget::setTabOrder(chkSynth, cmdHelp);
+    QWidget::setTabOrder(chkSynth, cmdMixer);
+    QWidget::setTabOrder(cmdMixer, cmdHelp);
 }
 
 QBoxLayout* FrmMixer::layOutTransport() {

@@ -1,6 +1,8 @@
 #include "backtrack/FrmSelect.h"
 
 #include "backtrack/BacktrackKind.h"
+#include "mixer/FrmVolumeMixer.h"
+#include "mixer/masterMixer.h"
 #include "platform/base/Numbers.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/files/App.h"
@@ -41,6 +43,7 @@ void FrmSelect::connectHandlers() {
     for (auto* save : {&CmdSave.Click, &mnuSave.Click}) on(*save, &FrmSelect::CmdSave_Click);
     on(cmdListen.Click, &FrmSelect::cmdListen_Click);
     on(cmdStop.Click, &FrmSelect::cmdStop_Click);
+    on(cmdMixer.Click, enterMasterMixer);
     on(cmdHelp.Click, [] { frmIntro->openHelp(2); });
     on(btnEnd.Click, [] { frmSelect.Unload(); });
     on(segmentMessage_, &FrmSelect::DirectXEvent8_DXCallback);
@@ -58,6 +61,7 @@ void FrmSelect::Form_Load() {
 }
 
 void FrmSelect::Form_Unload() {
+    frmVolumeMixer.Unload();
     CloseAudio();
     (gBacktrackFile.isEmpty() ? frmIntro->picStatusN : frmIntro->picStatusY)[1].ZOrder();
 }

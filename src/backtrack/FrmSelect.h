@@ -46,7 +46,7 @@ class FrmSelect final : public Form, private DirectXEvent8 {
     ListBox List1;
     CommandButton CmdOpen, CmdSave, CmdDelete, CmdClear;
     CommandButton cmdListen, cmdStop;
-    CommandButton cmdHelp, btnEnd;
+    CommandButton cmdMixer, cmdHelp, btnEnd;
     CommonDialog CommonDialog1;
     MenuEntry mnuPL, mnuOpen, mnuSave;
 

@@ -68,6 +68,7 @@ FrmSelect::FrmSelect()
       CmdClear(Frame2, QStringLiteral("CLEAR")),
       cmdListen(content(), QStringLiteral("Listen")),
       cmdStop(content(), QStringLiteral("Stop")),
+      cmdMixer(content(), QStringLiteral("Adjust Volume Levels")),
       cmdHelp(content(), QStringLiteral("Help")),
       btnEnd(content(), QStringLiteral("Close")),
       mnuPL(*this, QStringLiteral("Play List")),
@@ -98,7 +99,7 @@ void FrmSelect::layOut() {
         buttons->addWidget(*button);
     }
     buttons->addStretch(1);
-    for (CommandButton* button : {&cmdHelp, &btnEnd}) buttons->addWidget(*button);
+    for (CommandButton* button : {&cmdMixer, &cmdHelp, &btnEnd}) buttons->addWidget(*button);
 
     auto* column = new QVBoxLayout(content());
     column->setContentsMargins(20, 14, 20, 18);

@@ -2,6 +2,8 @@
 
 #include "backtrack/FrmMixer.h"
 #include "lyrics/FrmLyrics.h"
+#include "mixer/FrmVolumeMixer.h"
+#include "mixer/masterMixer.h"
 #include "platform/base/Numbers.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/files/App.h"
@@ -72,6 +74,7 @@ void FrmComposer::connectHandlers() {
     on(mnuFitView.Click, &FrmComposer::mnuFitView_Click);
     for (auto* event : {&HScrollB.Change, &HScrollB.Scroll}) on(*event, &FrmComposer::HScrollB_Change);
     for (auto* event : {&VScrollA.Change, &VScrollA.Scroll}) on(*event, &FrmComposer::VScrollA_Change);
+    for (auto* entry : {&cmdMixer.Click, &mnuVolume2.Click}) on(*entry, &FrmComposer::cmdMixer_Click);
     on(cmdHelp.Click, [] { frmIntro->openHelp(0); });
     on(cmdHelpVolume.Click, [] { frmIntro->openHelp(10); });
     on(btnEnd.Click, [] { frmComposer.Unload(); });
@@ -149,6 +152,7 @@ void FrmComposer::tellUnreadable(const std::vector<Tracks::Unreadable>& files) {
 void FrmComposer::Form_Unload() {
     unloaded_ = true;
     Timer1.setEnabled(false);
+    frmVolumeMixer.Unload();
     StopVUCapture();
     CloseAudio();
     frmLyrics->resetLyricsArray();
@@ -251,6 +255,14 @@ void FrmComposer::cbEnableVU_Click() {
     else
         StopVUCapture();
     saveSetting(QStringLiteral("EnableVU"), cbEnableVU.Value());
+}
+
+void FrmComposer::cmdMixer_Click() {
+    if (playing()) {
+        MsgBox(QStringLiteral("Window can not open while recording or playing! Click stop and try again."));
+        return;
+    }
+    enterMasterMixer();
 }
 
 void FrmComposer::Command1_Click() {

@@ -57,6 +57,7 @@ class FrmComposer final : public Form {
 
     bool playing() const { return transport_.playing; }
 
+    MenuEntry mnuVolume, mnuVolume2;
     MenuEntry mnuEdit, mnuHome;
     MenuEntry mnuTransport, mnuPlay, mnuStop;
     MenuEntry mnuView, mnuFitView;
@@ -101,7 +102,7 @@ class FrmComposer final : public Form {
     TextBox txtChord, txtLyrics;
     Frame Frame8;
     CommandButton cmdLyricAdd, cmdLyricUpdate, cmdViewLyrics, cmdRhyme;
-    CommandButton cmdHelpVolume, cmdHelp, btnEnd, Command1;
+    CommandButton cmdMixer, cmdHelpVolume, cmdHelp, btnEnd, Command1;
     Timer Timer1{50};
 
   private:
@@ -187,6 +188,7 @@ class FrmComposer final : public Form {
     void StopVUCapture();
     void cbEnableVU_Click();
 
+    void cmdMixer_Click();
     void Command1_Click();
 
     Tracks tracks_;

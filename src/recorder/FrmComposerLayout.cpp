@@ -110,6 +110,8 @@ QString side(std::int32_t pan) {
 
 FrmComposer::FrmComposer()
     : Form(QStringLiteral("Melody / Lyric Recorder")),
+      mnuVolume(*this, QStringLiteral("Volume_Settings")),
+      mnuVolume2(mnuVolume, QStringLiteral("Recording / Playback Levels")),
       mnuEdit(*this, QStringLiteral("Edit")),
       mnuHome(mnuEdit, QStringLiteral("Cursor to Home")),
       mnuTransport(*this, QStringLiteral("Transport")),
@@ -175,6 +177,7 @@ FrmComposer::FrmComposer()
       cmdLyricUpdate(Frame8, QStringLiteral("Update")),
       cmdViewLyrics(Frame8, QStringLiteral("View")),
       cmdRhyme(Frame8, QStringLiteral("Rhyme")),
+      cmdMixer(content(), QStringLiteral("Adjust Recording Levels")),
       cmdHelpVolume(content(), QStringLiteral("Help")),
       cmdHelp(content(), QStringLiteral("Help")),
       btnEnd(content(), QStringLiteral("Close")),
@@ -288,6 +291,7 @@ QBoxLayout* FrmComposer::layOutMixer() {
     beside->setSpacing(12);
     beside->addWidget(Frame9);
     beside->addStretch(1);
+    beside->addWidget(cmdMixer, 0, Qt::AlignBottom);
     beside->addWidget(cmdHelpVolume, 0, Qt::AlignBottom);
     auto* right = new QVBoxLayout;
     right->setSpacing(10);
@@ -391,6 +395,7 @@ void FrmComposer::nameControls() {
     Label1.names(sldHScale);
     sMaster.setAccessibleName(Frame2.Caption());
     sldOffset.setAccessibleName(QStringLiteral("Move Voice"));
+    cmdMixer.setToolTipText(QStringLiteral("Opens Windows mixer to adjust master playback and recording levels"));
     cmdHelpVolume.setToolTipText(QStringLiteral("Help on playback and recording volumes"));
     checkChannelMix.setAccessibleName(QStringLiteral("Listen to the final mix"));
     checkChannelMix.setToolTipText(QStringLiteral("Listen to the final mix"));

@@ -1,3 +1,4 @@
+#include "mixer/levelMeters.h"
 #include "platform/forms/Desktop.h"
 #include "recorder/FrmComposer.h"
 #include "recorder/levelBarPictures.h"
@@ -15,7 +16,7 @@ Marks& marks() {
 
 void FrmComposer::Timer1_Timer() {
     bars_.DecayVU();
-    if (!recording() && vuBuffer_) bars_.UpdateVU(*vuBuffer_);
+    if (!recording() && vuBuffer_) feedLevelColumns(bars_.UpdateVU(*vuBuffer_));
     showLevels(bars_, leftVU, rightVU);
     showNotice(notice_, recording() ? take_.recordBuffer() : nullptr, lblNotice);
     if (!playing()) return;
@@ -25,7 +26,7 @@ void FrmComposer::Timer1_Timer() {
     if (lyricsEnabled()) advanceLyric();
     if (recording()) {
         extendRecordedWave();
-        bars_.UpdateVU(*take_.recordBuffer());
+        feedLevelColumns(bars_.UpdateVU(*take_.recordBuffer()));
         showLevels(bars_, leftVU, rightVU);
         if (endsTake(position())) cmdStop.setValue(true);
     }

@@ -20,10 +20,10 @@ double decayed(double width) {
 
 }  // namespace
 
-void LevelBars::UpdateVU(const DirectSoundCaptureBuffer8& buffer) {
+std::optional<LevelBars::Averages> LevelBars::UpdateVU(const DirectSoundCaptureBuffer8& buffer) {
     DSCURSORS cursors;
     buffer.GetCurrentPosition(cursors);
-    if (cursors.lWrite < blockBytes) return;
+    if (cursors.lWrite < blockBytes) return {};
     std::array<StereoFrame, blockFrames> block{};
     buffer.ReadBuffer(cursors.lWrite - blockBytes, blockBytes, std::as_writable_bytes(std::span(block)), 0);
     std::int64_t leftSum = 0;
@@ -32,8 +32,10 @@ void LevelBars::UpdateVU(const DirectSoundCaptureBuffer8& buffer) {
         leftSum += std::abs(frame.left);
         rightSum += std::abs(frame.right);
     }
-    left_ = std::max(left_, widthOf(static_cast<double>(leftSum) / blockFrames));
-    right_ = std::max(right_, widthOf(static_cast<double>(rightSum) / blockFrames));
+    const Averages averages{static_cast<double>(leftSum) / blockFrames, static_cast<double>(rightSum) / blockFrames};
+    left_ = std::max(left_, widthOf(averages.left));
+    right_ = std::max(right_, widthOf(averages.right));
+    return averages;
 }
 
 void LevelBars::DecayVU() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace lyrebrook {
@@ -15,8 +16,15 @@ class LevelBars {
     static constexpr double fullWidth = 1695;
     static constexpr double restWidth = 115;  ///< no decay at or below it
 
-    /// Raises the bars to the level of the last 4096 bytes captured; nothing happens before there are as many.
-    void UpdateVU(const DirectSoundCaptureBuffer8& buffer);
+    /// Mean absolute sample values of a block, 0 to 32768.
+    struct Averages {
+        double left = 0;
+        double right = 0;
+    };
+
+    /// Raises the bars to the level of the last 4096 bytes captured, and tells it; nothing happens before there are as
+    /// many.
+    std::optional<Averages> UpdateVU(const DirectSoundCaptureBuffer8& buffer);
     void DecayVU();
 
     double left() const { return left_; }

@@ -7,6 +7,7 @@
 #include "backtrack/FrmMixer.h"
 #include "backtrack/FrmSelect.h"
 #include "democd/FrmDemoCD.h"
+#include "mixer/FrmVolumeMixer.h"
 #include "platform/files/App.h"
 #include "platform/files/FileSystemObject.h"
 #include "platform/forms/Desktop.h"
@@ -158,6 +159,7 @@ void FrmIntro::testSoundCard() {
 }
 
 void FrmIntro::Form_Unload() {
+    frmVolumeMixer.Unload();
     endProgram();
 }
 

@@ -23,6 +23,7 @@ QString gWebSiteUrl;
 QString gContactUrl;
 std::int32_t gVoiceTrackOffset = 0;
 std::int16_t gProjectEditMode = 0;
+std::int16_t gMixerDeviceIndex = 0;
 bool gLyricsSaved = false;
 std::vector<LyricRow> gLyrics;
 

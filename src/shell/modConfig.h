@@ -31,6 +31,7 @@ extern QString gWebSiteUrl;
 extern QString gContactUrl;
 extern std::int32_t gVoiceTrackOffset;  ///< thousands of bytes
 extern std::int16_t gProjectEditMode;   ///< never assigned
+extern std::int16_t gMixerDeviceIndex;  ///< the mixer that was chosen, as the mixer screen lists them
 extern bool gLyricsSaved;
 extern std::vector<LyricRow> gLyrics;  ///< the highest row is always an empty spare
 

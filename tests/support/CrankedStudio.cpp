@@ -4,6 +4,7 @@
 #include <QFile>
 #include <cstring>
 
+#include "mixer/modMixer.h"
 #include "platform/directx/DirectX8.h"
 #include "platform/files/App.h"
 #include "platform/files/Settings.h"
@@ -28,7 +29,9 @@ void makeDataFolders(const QString& folder) {
 void forgetTheSong() {
     for (QString* text : {&gSongName, &gBacktrackFile, &gSongsFolder, &gTracksFolder, &gSongTemplate}) text->clear();
     gVoiceTrackOffset = 0;
+    gMixerDeviceIndex = 0;
     forgetRecorder();
+    forgetMixer();
     gProjectEditMode = 0;
 }
 

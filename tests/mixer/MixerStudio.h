@@ -1,0 +1,41 @@
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include "mixer/FrmVolumeMixer.h"
+#include "mixer/masterMixer.h"
+#include "mixer/modMixer.h"
+#include "support/Studio.h"
+
+namespace lyrebrook {
+
+/// A desk at which the mixer screen is opened; opening it waits until it goes.
+class MixerStudio : public Studio {
+  protected:
+    /// Opens the screen, does `work` while it waits, and unloads it.
+    void whileOpen(const std::function<void()>& work) {
+        desk().whileWaiting([work] {
+            work();
+            frmVolumeMixer.Unload();
+        });
+        showMasterMixer();
+        EXPECT_FALSE(gMixerOpen);
+    }
+
+    /// Lets the change messages come.
+    void hearMessages() { desk().DoEvents(); }
+
+    static int shownPanels(const LineRow& row) {
+        int shown = 0;
+        for (int i = 0; i < row.panels.Count(); ++i) shown += row.panels[i].Visible() ? 1 : 0;
+        return shown;
+    }
+
+    static std::vector<std::string> captions(const LineRow& row) {
+        std::vector<std::string> texts;
+        for (int i = 0; i < shownPanels(row); ++i) texts.push_back(row.panels[i].Caption().toStdString());
+        return texts;
+    }
+};
+
+}  // namespace lyrebrook
