@@ -26,6 +26,7 @@ void walk(const QString& folder) {
     recordBacktrack(tour);
     singVoices(tour);
     writeLyrics(tour);
+    adjustLevels(tour);
     findRhymes(tour);
     makeDemo(tour);
     showSite(tour);

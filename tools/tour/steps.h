@@ -11,6 +11,7 @@ void chooseBacktrack(Tour& tour);
 void recordBacktrack(Tour& tour);
 void singVoices(Tour& tour);
 void writeLyrics(Tour& tour);
+void adjustLevels(Tour& tour);
 void findRhymes(Tour& tour);
 void makeDemo(Tour& tour);
 void showSite(Tour& tour);
