@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QPrinter>
 #include <algorithm>
 
 #include "platform/forms/Boundary.h"
@@ -52,6 +53,7 @@ ScriptedDesktop::~ScriptedDesktop() {
     setDesktop(nullptr);
     if (!answers_.empty()) qCritical() << answers_.size() << "expected message boxes were never shown";
     if (!choices_.empty()) qCritical() << choices_.size() << "expected file dialogs were never shown";
+    if (!printers_.empty()) qCritical() << printers_.size() << "expected printer dialogs were never shown";
     if (!waitActions_.empty()) qCritical() << waitActions_.size() << "expected waits never came";
     if (!generalError_.isEmpty()) qCritical() << "the program ended by the error" << generalError_;
 }
@@ -62,6 +64,15 @@ void ScriptedDesktop::willAnswer(MsgBoxResult answer, std::function<void()> mean
 
 void ScriptedDesktop::willChoose(const QString& path) {
     choices_.push_back(path);
+}
+
+void ScriptedDesktop::willPrintTo(const QString& pdf, int copies, const QPageSize& paper) {
+    printers_.push_back([=](QPrinter& printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdf);
+        printer.setCopyCount(copies);
+        printer.setPageSize(paper);
+    });
 }
 
 void ScriptedDesktop::whileWaiting(std::function<void()> action) {
@@ -130,6 +141,17 @@ QString ScriptedDesktop::chooseFile(const FileQuestion& question) {
     const QString choice = choices_.front();
     choices_.pop_front();
     return choice;
+}
+
+bool ScriptedDesktop::choosePrinter(QPrinter& printer) {
+    if (printers_.empty()) {
+        qCritical() << "unexpected printer dialog";
+        endProgram();
+    }
+    const auto setUp = std::exchange(printers_.front(), {});
+    printers_.pop_front();
+    setUp(printer);
+    return !printer.outputFileName().isEmpty();
 }
 
 void ScriptedDesktop::endProgram() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPageSize>
 #include <QStringList>
 #include <cstdint>
 #include <deque>
@@ -34,6 +35,8 @@ class ScriptedDesktop final : public Desktop {
     void willAnswer(MsgBoxResult answer, std::function<void()> meanwhile = {});
     /// The next file dialog gives this path; empty cancels it.
     void willChoose(const QString& path);
+    /// The next printer dialog gives this PDF file, on paper of that size; empty cancels it.
+    void willPrintTo(const QString& pdf, int copies = 1, const QPageSize& paper = QPageSize(QPageSize::A4));
     /// The next wait that has nothing pending finds this happening.
     void whileWaiting(std::function<void()> action);
 
@@ -52,6 +55,7 @@ class ScriptedDesktop final : public Desktop {
 
     MsgBoxResult MsgBox(const QString& text, std::int32_t style, const QString& title) override;
     QString chooseFile(const FileQuestion& question) override;
+    bool choosePrinter(QPrinter& printer) override;
     [[noreturn]] void endProgram() override;
     void DoEvents() override;
     void waitWhile(const std::function<bool()>& condition) override;
@@ -78,6 +82,7 @@ class ScriptedDesktop final : public Desktop {
 
     std::deque<Answer> answers_;
     std::deque<QString> choices_;
+    std::deque<std::function<void(QPrinter&)>> printers_;
     std::deque<std::function<void()>> waitActions_;
     std::vector<Box> boxes_;
     std::vector<FileQuestion> fileQuestions_;

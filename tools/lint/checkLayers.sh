@@ -14,7 +14,8 @@ platform/system   | platform/base                                               
 platform/music    | platform/base platform/sound                                       | Qt fluidsynth
 platform/winmm    | platform/base platform/sound                                       | Qt
 platform/directx  | platform/base platform/sound platform/music                        | Qt
-platform/forms    | platform/base platform/files                                       | Qt
+platform/printing | platform/base platform/files                                       | Qt
+platform/forms    | platform/base platform/files platform/printing                     | Qt
 platform/help     | platform/base platform/files platform/forms                        | Qt
 ROWS
 }

@@ -26,6 +26,7 @@ enum class RuntimeErrorNumber : std::int32_t {
     pathFileAccess = 75,
     pathNotFound = 76,
     automation = 440,
+    printerError = 482,
 };
 
 /// A failure that the product answers with a text: a number and a description for the person at the screen, in UTF-8.

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 
 #include "platform/forms/Desktop.h"
 
 namespace lyrebrook {
 
-/// The dialogs for a file to open or to save. A cancelled dialog leaves an empty `FileName`; with `CancelError` it is a
-/// `RuntimeError` instead.
+/// The dialogs for a file to open or to save, and for the printer. A cancelled dialog leaves an empty `FileName` and
+/// the printer as it was; with `CancelError` it is a `RuntimeError` instead.
 class CommonDialog {
   public:
     /// Pairs of description and patterns, all joined by "|": "Text (*.txt)|*.txt".
@@ -19,6 +20,10 @@ class CommonDialog {
     /// An existing file may be chosen without a question.
     void ShowSave() { show(FileQuestion::Purpose::save); }
 
+    /// Puts the printer that is chosen in use; `Copies` are then the caller's to make.
+    void ShowPrinter();
+
+    std::int16_t Copies() const { return copies_; }
     /// Full path of the file that was chosen.
     QString FileName() const { return fileName_; }
     /// The same without its folder.
@@ -26,9 +31,11 @@ class CommonDialog {
 
   private:
     void show(FileQuestion::Purpose purpose);
+    void cancelled() const;
 
     FileQuestion question_;
     QString fileName_;
+    std::int16_t copies_ = 1;
     bool cancelError_ = false;
 };
 

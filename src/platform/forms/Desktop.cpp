@@ -1,8 +1,10 @@
 #include "platform/forms/Desktop.h"
 
+#include <QPrinter>
 #include <cstdlib>
 
 #include "platform/base/Check.h"
+#include "platform/printing/PaperPrinter.h"
 
 namespace lyrebrook {
 namespace {
@@ -10,6 +12,11 @@ namespace {
 Desktop* desktopInUse = nullptr;
 
 }  // namespace
+
+Printer& Desktop::printer() {
+    if (!printer_) printer_ = std::make_unique<PaperPrinter>(std::make_unique<QPrinter>(QPrinter::HighResolution));
+    return *printer_;
+}
 
 void Desktop::generalError(std::int32_t number, const QString& description) {
     showGeneralError(number, description);

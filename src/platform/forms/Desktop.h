@@ -6,6 +6,10 @@
 #include <functional>
 #include <memory>
 
+#include "platform/printing/Printer.h"
+
+class QPrinter;
+
 namespace lyrebrook {
 
 /// Sums of a button set and an icon say how a message box looks.
@@ -58,6 +62,13 @@ class Desktop {
     /// Full path of the file that was chosen, empty when the dialog was cancelled.
     virtual QString chooseFile(const FileQuestion& question) = 0;
 
+    /// Lets the person choose a printer and set it up; false when the dialog was cancelled.
+    virtual bool choosePrinter(QPrinter& printer) = 0;
+
+    /// The printer in use: what `setPrinter` put in place last, at first the desktop's own as it stands.
+    Printer& printer();
+    void setPrinter(std::unique_ptr<Printer> printer) { printer_ = std::move(printer); }
+
     /// The last word on an error that nobody trapped; ends the program.
     [[noreturn]] void generalError(std::int32_t number, const QString& description);
 
@@ -88,6 +99,7 @@ class Desktop {
     void setEnded() { ended_ = true; }
 
   private:
+    std::unique_ptr<Printer> printer_;
     bool ended_ = false;
 };
 

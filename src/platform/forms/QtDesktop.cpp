@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QRegularExpression>
 #include <QThread>
 #include <QTimer>
@@ -124,6 +125,13 @@ QString QtDesktop::chooseFile(const FileQuestion& question) {
     dialog.setDirectory(existingFolder(question.folder));
     if (dialog.exec() != QDialog::Accepted) return {};
     return dialog.selectedFiles().value(0);
+}
+
+bool QtDesktop::choosePrinter(QPrinter& printer) {
+    QPrintDialog dialog(&printer, ActiveForm::window());
+    // Whoever prints makes all pages, and all copies.
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 void QtDesktop::endProgram() {

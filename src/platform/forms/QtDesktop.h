@@ -16,6 +16,7 @@ class QtDesktop final : public Desktop {
 
     MsgBoxResult MsgBox(const QString& text, std::int32_t style, const QString& title) override;
     QString chooseFile(const FileQuestion& question) override;
+    bool choosePrinter(QPrinter& printer) override;
     [[noreturn]] void endProgram() override;
     void DoEvents() override;
     void waitWhile(const std::function<bool()>& condition) override;

@@ -1,5 +1,6 @@
 #include "platform/forms/TextBox.h"
 
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -105,6 +106,27 @@ void TextBox::setAlignment(Qt::Alignment alignment) {
     QTextOption option = page().document()->defaultTextOption();
     option.setAlignment(alignment);
     page().document()->setDefaultTextOption(option);
+}
+
+TextAlignment TextBox::Alignment() const {
+    const Qt::Alignment alignment =
+        lines_ == Lines::single ? line().alignment() : page().document()->defaultTextOption().alignment();
+    if (alignment & Qt::AlignHCenter) return TextAlignment::centre;
+    return alignment & Qt::AlignRight ? TextAlignment::right : TextAlignment::left;
+}
+
+Font TextBox::Font() const {
+    widget()->ensurePolished();  // a box that was never seen doesn't know its style yet
+    const QFont font = widget()->font();
+    lyrebrook::Font result;
+    result.Name = font.family();
+    result.Bold = font.bold();
+    result.Italic = font.italic();
+    result.Size = QFontInfo(font).pointSizeF();
+    result.Strikethrough = font.strikeOut();
+    result.Underline = font.underline();
+    result.Weight = static_cast<std::int16_t>(font.weight());
+    return result;
 }
 
 void TextBox::setHint(const QString& hint) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/Control.h"
+#include "platform/printing/TextStyle.h"
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -22,7 +23,10 @@ class TextBox final : public Control {
     bool Locked() const;
     /// A locked box shows its text, and lets it be selected, but not be changed.
     void setLocked(bool locked);
+    TextAlignment Alignment() const;
     void setAlignment(Qt::Alignment alignment);
+    /// The letters that the box shows its text in.
+    lyrebrook::Font Font() const;
     /// What the empty box says, in grey.
     void setHint(const QString& hint);
 

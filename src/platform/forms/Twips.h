@@ -2,11 +2,11 @@
 
 #include <cmath>
 
+#include "platform/base/Twips.h"
+
 namespace lyrebrook {
 
-/// A length on a screen: 1440 to the inch, 15 to a logical pixel. Fractions are kept: a bar's width is computed.
-using Twips = double;
-
+/// Logical pixels, 96 to the inch, whatever the screen's scale.
 inline constexpr Twips twipsPerPixel = 15;
 
 inline int toPixels(Twips length) {
