@@ -4,6 +4,8 @@
 #include <QVBoxLayout>
 
 #include "lyrics/LyricFile.h"
+#include "lyrics/PrintText.h"
+#include "lyrics/lyricSheet.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/files/App.h"
 #include "platform/files/FileSystemObject.h"
@@ -37,7 +39,6 @@ FrmLyrics::FrmLyrics()
     txtLyrics.setVisible(false);
     cmdUpdate.setEnabled(false);
     cmdDelete.setEnabled(false);
-    cmdPrint.setEnabled(false);
     layOut();
     connectHandlers();
 }
@@ -85,6 +86,7 @@ void FrmLyrics::connectHandlers() {
     on(cmdDelete.Click, &FrmLyrics::cmdDelete_Click);
     on(cmdSave.Click, &FrmLyrics::cmdSave_Click);
     on(cmdClear.Click, &FrmLyrics::cmdClear_Click);
+    on(cmdPrint.Click, &FrmLyrics::cmdPrint_Click);
     on(cmdHelp.Click, [] { frmIntro->openHelp(0); });
     on(cmdClose.Click, [] { frmLyrics.Unload(); });
 }
@@ -188,6 +190,19 @@ void FrmLyrics::cmdClear_Click() {
     }
     saveLyric();
     gLyricsSaved = true;
+}
+
+void FrmLyrics::cmdPrint_Click() {
+    constexpr PageMargins margins{.left = 1000, .right = 1000, .top = 1500, .bottom = 1100};
+    txtLyrics.setText(lyricSheet(gSongName, gLyrics));
+    CommonDialog1.setCancelError(true);
+    try {
+        CommonDialog1.ShowPrinter();
+        for (std::int16_t copy = 1; copy <= CommonDialog1.Copies(); ++copy)
+            PrintText(txtLyrics, margins, PrintedPart::whole);
+    } catch (const std::exception&) {
+        return;  // who cancels the dialog knows it
+    }
 }
 
 }  // namespace lyrebrook

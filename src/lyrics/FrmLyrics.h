@@ -5,6 +5,7 @@
 
 #include "lyrics/LyricStore.h"
 #include "platform/forms/CommandButton.h"
+#include "platform/forms/CommonDialog.h"
 #include "platform/forms/FormInstance.h"
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"
@@ -51,6 +52,7 @@ class FrmLyrics final : public Form {
     Label Label4;
     TextBox txtLine, txtPosition, txtLyrics;
     CommandButton cmdUpdate, cmdDelete, cmdSave, cmdClear, cmdPrint, cmdHelp, cmdClose;
+    CommonDialog CommonDialog1;
 
   private:
     void layOut();
@@ -62,6 +64,7 @@ class FrmLyrics final : public Form {
     void cmdDelete_Click();
     void cmdSave_Click();
     void cmdClear_Click();
+    void cmdPrint_Click();
 
     std::int32_t selectedPosition_ = 0;
 };

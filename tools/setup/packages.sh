@@ -7,7 +7,7 @@ build_packages=(
 )
 test_packages=(
     clang-format clang-tidy-19 git googletest libgmock-dev libgtest-dev procps
-    chromium chromium-driver sox
+    chromium chromium-driver poppler-utils sox
     dbus pipewire pipewire-pulse pulseaudio pulseaudio-utils wireplumber
 )
 bench_packages=(

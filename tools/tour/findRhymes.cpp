@@ -1,10 +1,11 @@
 #include "dictionary/FrmDictionary.h"
+#include "recorder/FrmComposer.h"
 #include "steps.h"
 
 namespace lyrebrook {
 
 void findRhymes(Tour& tour) {
-    frmDictionary.Show();
+    frmComposer->cmdRhyme.setValue(true);
     frmDictionary->txtWord.setText(QStringLiteral("ing"));
     frmDictionary->cmdSearch.setValue(true);
     tour.picture(*frmDictionary, QStringLiteral("rhymes"));

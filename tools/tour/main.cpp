@@ -27,7 +27,6 @@ void walk(const QString& folder) {
     singVoices(tour);
     writeLyrics(tour);
     adjustLevels(tour);
-    findRhymes(tour);
     makeDemo(tour);
     showSite(tour);
     tour.require(!complained, QStringLiteral("no complaint on the way"));

@@ -12,8 +12,11 @@ void recordBacktrack(Tour& tour);
 void singVoices(Tour& tour);
 void writeLyrics(Tour& tour);
 void adjustLevels(Tour& tour);
-void findRhymes(Tour& tour);
 void makeDemo(Tour& tour);
 void showSite(Tour& tour);
+
+/// What is done beside the recorder, while a song is open.
+void printLyrics(Tour& tour);
+void findRhymes(Tour& tour);
 
 }  // namespace lyrebrook

@@ -58,6 +58,7 @@ void correctInEditor(Tour& tour) {
     frmLyrics->cmdUpdate.setValue(true);
     tour.require(frmLyrics->lstLyrics.List(0) == QStringLiteral("Walking down the river road"),
                  QStringLiteral("the line is corrected"));
+    printLyrics(tour);
     frmLyrics->cmdClose.setValue(true);
 }
 
@@ -73,6 +74,7 @@ void writeLyrics(Tour& tour) {
     tour.say(QStringLiteral("step 4: wrote four lines with chords, corrected one"));
     for (const QByteArray& line : file.readAll().trimmed().split('\n'))
         tour.say(QStringLiteral("  ") + QString::fromUtf8(line.trimmed()));
+    findRhymes(tour);
     frmComposer->btnEnd.setValue(true);
 }
 
