@@ -29,6 +29,7 @@ void CommonDialog::cancelled() const {
 
 void CommonDialog::ShowPrinter() {
     auto chosen = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    chosen->setDocName(QStringLiteral("Lyrebrook"));  // in the printer's queue, and as the proposed file name
     if (!desktop().choosePrinter(*chosen)) return cancelled();
     copies_ = static_cast<std::int16_t>(chosen->copyCount());
     desktop().setPrinter(std::make_unique<PaperPrinter>(std::move(chosen)));
