@@ -16,8 +16,14 @@ function(lyrebrook_test name)
     add_executable(${name} ${TEST_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${TEST_LIBRARIES} GTest::gmock)
+    target_compile_options(${name} PRIVATE $<$<CONFIG:Debug>:-O0>)  # what is tested is optimised, the tests need not be
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${TEST_LABELS}" TIMEOUT 300
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=1:abort_on_error=0;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()
+
+# lyrebrook_precompile(name HEADERS ...): what nearly every source of a large target includes is parsed once.
+function(lyrebrook_precompile name)
+    target_precompile_headers(${name} PRIVATE <algorithm> <array> <functional> <memory> <string> <vector> ${ARGN})
 endfunction()
