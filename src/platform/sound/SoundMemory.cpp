@@ -3,20 +3,21 @@
 #include <sys/mman.h>
 
 #include <cstdint>
+#include <memory>
 
 #include "platform/base/RuntimeError.h"
 
 namespace lyrebrook {
 namespace {
 
-constexpr std::uintptr_t pageBytes = 4096;
+constexpr std::size_t pageBytes = 4096;
 
 /// Only advice, and only about whole pages; what lies at the ends of those stays as it is.
 void askForLargePages(std::span<StereoFrame> frames) {
-    const auto begin = reinterpret_cast<std::uintptr_t>(frames.data());
-    const std::uintptr_t first = (begin + pageBytes - 1) / pageBytes * pageBytes;
-    const std::uintptr_t end = (begin + frames.size_bytes()) / pageBytes * pageBytes;
-    if (end > first) ::madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+    void* first = frames.data();
+    std::size_t space = frames.size_bytes();
+    if (std::align(pageBytes, pageBytes, first, space) == nullptr) return;
+    ::madvise(first, space / pageBytes * pageBytes, MADV_HUGEPAGE);
 }
 
 void touch(std::span<StereoFrame> frames) {
