@@ -5,6 +5,7 @@
 
 #include "backtrack/FrmMixer.h"
 #include "integration/support/ServerStudio.h"
+#include "platform/sound/MixerBackend.h"
 #include "recorder/FrmComposer.h"
 #include "shell/modConfig.h"
 
@@ -12,6 +13,8 @@ namespace lyrebrook {
 namespace {
 
 constexpr const char* source = "mic";
+
+constexpr const char* otherSource = "line";
 
 void loadSource(ServerStudio& desk) {
     desk.server.control(std::string("load-module module-remap-source source_name=") + source +
@@ -38,12 +41,9 @@ const Fault sourceUnloaded{
     "sourceUnloaded", [](ServerStudio& desk) { desk.server.control("unload-module " + desk.server.moduleOf(source)); },
     loadSource, "The recording source is gone. What was recorded is kept.", "The recording source is back."};
 
-const Fault otherDefault{"otherDefault",
-                         [](ServerStudio& desk) {
-                             desk.server.control("load-module module-null-sink sink_name=other");
-                             desk.server.control("set-default-source other.monitor");
-                         },
-                         [](ServerStudio&) {}, "", ""};
+const Fault otherDefault{
+    "otherDefault", [](ServerStudio& desk) { desk.server.control(std::string("set-default-source ") + otherSource); },
+    [](ServerStudio& desk) { desk.server.control(std::string("set-default-source ") + source); }, "", ""};
 
 /// A recording screen, as the same session goes at both.
 struct Screen {
@@ -102,6 +102,11 @@ class Faults : public testing::TestWithParam<std::tuple<ServerKind, Fault, Scree
   protected:
     Faults() {
         loadSource(desk);
+        desk.server.control("load-module module-null-sink sink_name=other");
+        desk.server.control(std::string("load-module module-remap-source source_name=") + otherSource +
+                            " master=other.monitor");
+        desk.server.control(std::string("set-default-source ") + source);
+        mixer = desk.card->mixer()->open(0, [](const MixerChange&) {});
         desk.card->selectSource({.kind = RecordingSource::Kind::named, .name = source});
         gBacktrackFile = desk.studio.path(QStringLiteral("tracks/clicks.wav"));
         for (const QString& file : {gBacktrackFile, trackFilePath(1)}) {
@@ -120,6 +125,7 @@ class Faults : public testing::TestWithParam<std::tuple<ServerKind, Fault, Scree
     const Fault& fault = std::get<1>(GetParam());
     const Screen& screen = std::get<2>(GetParam());
     ServerStudio desk{std::get<0>(GetParam())};
+    std::unique_ptr<MixerDevice> mixer;  // the one that follows other programs
 };
 
 TEST_P(Faults, LeaveTheTakeWholeAndTheNextOneToo) {

@@ -48,6 +48,13 @@ class MixerOnServers : public testing::TestWithParam<ServerKind> {
             },
             5s);
     }
+    /// And waits until the mixer has seen that.
+    void selectStereoMix() {
+        desk->select("Stereo Mix");
+        EXPECT_TRUE(serverSays("get-default-source", "desk.monitor"));
+        sound.server.control("set-sink-volume desk 0");
+        EXPECT_TRUE(hears(master, volume, {0, 0}));
+    }
     bool serverSays(const std::string& question, const std::string& answer) {
         return waitUntil([&] { return sound.server.control(question).find(answer) != npos; }, 5s);
     }
@@ -105,10 +112,7 @@ TEST_P(MixerOnServers, SelectingMovesTheCaptureAndTheDefaultSource) {
 }
 
 TEST_P(MixerOnServers, ADefaultSourceThatSomebodyChoseMovesTheSelection) {
-    desk->select("Stereo Mix");
-    EXPECT_TRUE(serverSays("get-default-source", "desk.monitor"));
-    sound.server.control("set-sink-volume desk 0");
-    EXPECT_TRUE(hears(master, volume, {0, 0}));
+    selectStereoMix();
     sound.server.control("set-default-source singer");
     EXPECT_TRUE(hears(desk->line(waveIn), mux, {1, 0, 0}));
     EXPECT_TRUE(capturesFrom("singer"));
@@ -118,6 +122,19 @@ TEST_P(MixerOnServers, ADefaultSourceThatSomebodyChoseMovesTheSelection) {
     sound.server.control("set-sink-mute desk 1");
     EXPECT_TRUE(hears(master, mute, {1}));
     EXPECT_EQ(desk->selected(), "Song Mix") << "the song's own output is not for others to take away";
+}
+
+TEST_P(MixerOnServers, ARecordingEndsOnTheSourceItBeganWith) {
+    selectStereoMix();
+    const auto take = sound.capture(framesPerSecond);
+    take->Start(0);
+    sound.server.control("set-default-source singer");
+    sound.server.control("set-sink-mute desk 1");
+    EXPECT_TRUE(hears(master, mute, {1}));
+    EXPECT_EQ(desk->selected(), "Stereo Mix");
+    take->Stop();
+    EXPECT_EQ(desk->selected(), "Singer");
+    EXPECT_TRUE(capturesFrom("singer"));
 }
 
 TEST_P(MixerOnServers, AThousandChangesASecondAreFewMessagesAndEndRight) {

@@ -1,5 +1,7 @@
 #include "platform/sound/DirectSoundCaptureBuffer8.h"
 
+#include <utility>
+
 #include "platform/sound/CaptureTape.h"
 #include "platform/sound/DirectSoundSecondaryBuffer8.h"
 #include "platform/sound/bufferChecks.h"
@@ -14,6 +16,7 @@ DirectSoundCaptureBuffer8::DirectSoundCaptureBuffer8(std::shared_ptr<SoundEngine
 
 DirectSoundCaptureBuffer8::~DirectSoundCaptureBuffer8() {
     engine_->detach(std::move(tape_));
+    keepSource(false);
     engine_->closeInput();
 }
 
@@ -34,6 +37,13 @@ void DirectSoundCaptureBuffer8::start(EngineCommand command) {
     command.verb = Verb::start;
     command.ticket = startTicket_;
     engine_->post(command);
+    keepSource(!looping_);
+}
+
+/// One that loops is a meter, which follows what everybody chooses.
+void DirectSoundCaptureBuffer8::keepSource(bool keep) {
+    if (std::exchange(keepsSource_, keep) == keep) return;
+    keep ? engine_->holdSource() : engine_->releaseSource();
 }
 
 std::optional<std::int32_t> DirectSoundCaptureBuffer8::startedBeside() const {
@@ -47,6 +57,7 @@ void DirectSoundCaptureBuffer8::Stop() {
     if (!looping_) engine_->awaitInput();
     stoppedAt_ = position();
     started_ = false;
+    keepSource(false);
     engine_->post({.unit = tape_.get(), .verb = Verb::stop, .ticket = ++ticket_});
 }
 

@@ -44,6 +44,7 @@ class DirectSoundCaptureBuffer8 {
 
   private:
     void start(EngineCommand command);
+    void keepSource(bool keep);
     Frames position() const;
     bool running() const;
 
@@ -52,6 +53,7 @@ class DirectSoundCaptureBuffer8 {
     std::uint32_t ticket_ = 0;
     bool started_ = false;
     bool looping_ = false;
+    bool keepsSource_ = false;
     std::uint32_t startTicket_ = 0;
     Frames stoppedAt_ = 0;
 };

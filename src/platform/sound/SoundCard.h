@@ -56,6 +56,11 @@ class SoundCard {
     virtual void openInput() = 0;
     virtual void closeInput() = 0;
 
+    /// From here to `releaseSource` a recording runs: only the person at the program changes what it records, and what
+    /// other programs choose for recording waits.
+    virtual void holdSource() {}
+    virtual void releaseSource() {}
+
     /// Outputs that a person could hear.
     virtual std::int32_t outputCount() const = 0;
 

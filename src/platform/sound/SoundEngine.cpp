@@ -59,6 +59,14 @@ void SoundEngine::closeInput() {
     if (--inputUsers_ == 0 && card_ != nullptr) card_->closeInput();
 }
 
+void SoundEngine::holdSource() {
+    if (sourceHolders_++ == 0 && card_ != nullptr) card_->holdSource();
+}
+
+void SoundEngine::releaseSource() {
+    if (--sourceHolders_ == 0 && card_ != nullptr) card_->releaseSource();
+}
+
 void SoundEngine::awaitInput() const {
     if (card_ == nullptr || !card_->runsByItself() || card_->notice() != CardNotice::none) return;
     constexpr std::chrono::milliseconds longest{300};

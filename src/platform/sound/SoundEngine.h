@@ -43,6 +43,10 @@ class SoundEngine final : private SoundCardClient {
     void openInput();
     void closeInput();
 
+    /// Counts the recordings, during which the card keeps its source.
+    void holdSource();
+    void releaseSource();
+
     /// Returns when what has sounded by now could be captured, at once or a moment later. Input that doesn't come by
     /// then isn't waited for.
     void awaitInput() const;
@@ -72,6 +76,7 @@ class SoundEngine final : private SoundCardClient {
     std::vector<Kept> kept_;
     std::int32_t openTransactions_ = 0;
     std::int32_t inputUsers_ = 0;
+    std::int32_t sourceHolders_ = 0;
 
     // Between the threads. Counts of orders: those in whole batches, and those that the card's thread is done with.
     moodycamel::ReaderWriterQueue<EngineCommand> commands_;

@@ -47,6 +47,9 @@ class CardLines {
     /// The program's thread: `changed` is called after every setting, as long as what is returned is kept.
     [[nodiscard]] Watch watch(std::function<void()> changed);
 
+    /// For what changed beside the lines and is watched with them.
+    void tellWatchers();
+
     /// What the settings do to the sound.
     StereoGain gain(CardLine line) const noexcept;
     StereoGain recordingGain() const noexcept;
@@ -58,8 +61,6 @@ class CardLines {
         std::atomic<std::uint32_t> level{fullLevel};
         std::atomic<bool> muted{false};
     };
-
-    void tellWatchers();
 
     std::array<LineControl, cardLineCount> lines_;
     std::array<std::atomic<std::uint32_t>, recordingLineCount> recordingLevels_;

@@ -43,6 +43,14 @@ std::int32_t PulseCard::outputCount() const {
     return share_->outputs.load();
 }
 
+void PulseCard::holdSource() {
+    share_->source.holdStill();
+}
+
+void PulseCard::releaseSource() {
+    if (share_->source.letGo()) share_->buses.tellWatchers();
+}
+
 /// Mixers that are open at the same time share a connection, which goes with the last of them.
 std::shared_ptr<MixerBackend> PulseCard::mixer() {
     auto connection = mixerConnection_.lock();
@@ -52,7 +60,7 @@ std::shared_ptr<MixerBackend> PulseCard::mixer() {
 }
 
 void PulseCard::selectSource(const RecordingSource& source) {
-    share_->select(source);
+    share_->source.choose(source);
     loop_->wake();
 }
 

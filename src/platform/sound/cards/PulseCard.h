@@ -31,6 +31,8 @@ class PulseCard final : public SoundCard {
     void stop() override;
     void openInput() override;
     void closeInput() override;
+    void holdSource() override;
+    void releaseSource() override;
     std::int32_t outputCount() const override;
     std::shared_ptr<MixerBackend> mixer() override;
 

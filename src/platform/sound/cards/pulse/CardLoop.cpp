@@ -85,7 +85,7 @@ void CardLoop::keepUp(CardMoment now) {
 }
 
 void CardLoop::takeOrders(CardMoment now) {
-    if (const auto chosen = share_.takeSelection()) {
+    if (const auto chosen = share_.source.takeNews()) {
         kind_ = chosen->kind;
         input_.select(*chosen);
     }

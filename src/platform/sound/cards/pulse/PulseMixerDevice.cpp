@@ -171,7 +171,7 @@ MixerValues PulseMixerDevice::readBus(const MixerControlPlace& control) const {
 }
 
 MixerValues PulseMixerDevice::readSelection() const {
-    const RecordingSource chosen = parts_.card->chosen();
+    const RecordingSource chosen = parts_.card->source.chosen();
     std::vector<std::int32_t> flags;
     for (const RecordingSource& input : inputs_) flags.push_back(input == chosen ? 1 : 0);
     return flags;
@@ -213,7 +213,7 @@ bool PulseMixerDevice::writeSelection(std::span<const std::int32_t> flags) {
     const auto flag = std::ranges::find_if(flags, [](std::int32_t each) { return each != 0; });
     if (flag == flags.end()) return true;
     const RecordingSource& chosen = inputs_.at(static_cast<std::size_t>(flag - flags.begin()));
-    parts_.card->select(chosen);
+    parts_.card->source.choose(chosen);
     const auto picture = parts_.connection->picture();
     if (const PulseDevice* const device = source(*picture, chosen)) makeDefault(device->name);
     tellChanges();
@@ -227,12 +227,13 @@ void PulseMixerDevice::makeDefault(const std::string& name) {
 
 void PulseMixerDevice::followDefaultSource() {
     const auto picture = parts_.connection->picture();
-    if (!somebodyChoseDefault(*picture) || parts_.card->chosen().kind == RecordingSource::Kind::ownOutput) return;
+    if (!somebodyChoseDefault(*picture) || parts_.card->source.chosen().kind == RecordingSource::Kind::ownOutput)
+        return;
     const auto chosen = std::ranges::find_if(inputs_, [&](const RecordingSource& input) {
         const PulseDevice* const device = source(*picture, input);
         return device != nullptr && device->name == picture->defaultSource;
     });
-    if (chosen != inputs_.end()) parts_.card->select(*chosen);
+    if (chosen != inputs_.end()) parts_.card->source.follow(*chosen);
 }
 
 /// A default that moved because its source went away, or because the server began anew, was nobody's choice; one that
