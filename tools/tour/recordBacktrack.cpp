@@ -22,11 +22,25 @@ void recordToTheEnd(Tour& tour) {
     tour.say(QStringLiteral("crank: %1 x real time").arg(recorded / elapsed, 0, 'f', 0));
 }
 
+/// A source that delivers nothing, which the screen tells and which is then given up.
+void recordNothing(Tour& tour) {
+    frmMixer->checkSource.setValue(1);
+    frmMixer->cmdPlay.setValue(true);
+    tour.studio().crank(2500ms);
+    tour.picture(*frmMixer, QStringLiteral("backtrack-without-sound"));
+    tour.say(QStringLiteral("step 3: ") + frmMixer->lblNotice.Caption());
+    frmMixer->cmdStop.setValue(true);
+    frmMixer->checkSource.setValue(0);
+    tour.studio().crank(100ms);
+    tour.require(frmMixer->lblNotice.Caption().isEmpty(), QStringLiteral("the notice goes away with the recording"));
+}
+
 }  // namespace
 
 void recordBacktrack(Tour& tour) {
     frmIntro->mnuStep3.Click.fire();
     tour.picture(*frmMixer, QStringLiteral("backtrack-recorder"));
+    recordNothing(tour);
     frmMixer->cmdPlay.setValue(true);
     tour.studio().crank(8250ms);
     tour.picture(*frmMixer, QStringLiteral("backtrack-recording"));
