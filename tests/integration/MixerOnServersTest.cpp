@@ -22,18 +22,9 @@ constexpr std::int32_t half = 32768;
 class MixerOnServers : public testing::TestWithParam<ServerKind> {
   protected:
     MixerOnServers() : sound(GetParam()) {
-        loadSinger();
+        sound.server.addSource("singer", "Singer");
         desk = std::make_unique<MixerDesk>();
         master = desk->line(speakers);
-    }
-
-    void loadSinger() {
-        const bool pulseAudio = GetParam() == ServerKind::pulseAudio;
-        sound.server.control(pulseAudio ? "load-module module-null-source source_name=singer description=Singer"
-                                        : "load-module module-null-sink media.class=Audio/Source/Virtual "
-                                          "sink_name=singer sink_properties=device.description=Singer");
-        EXPECT_TRUE(
-            waitUntil([this] { return sound.server.control("list short sources").find("singer") != npos; }, 5s));
     }
 
     /// The window hears of a control, and it then stands like that.
@@ -166,7 +157,7 @@ TEST_P(MixerOnServers, ASourceThatGoesAwayTakesNothingAlong) {
     EXPECT_TRUE(waitUntil([&] { return desk->set(singer, volume, {half, half}) != MMSYSERR_NOERROR; }, 5s));
     EXPECT_EQ(desk->get(singer, volume, 2), (std::vector{half, half}));
     EXPECT_EQ(desk->selected(), "Singer") << "the server's next best is nobody's choice";
-    loadSinger();
+    sound.server.addSource("singer", "Singer");
     EXPECT_TRUE(waitUntil([&] { return desk->set(singer, volume, {0}) == MMSYSERR_NOERROR; }, 5s));
     EXPECT_TRUE(serverSays("get-source-volume singer", " 0%"));
 }

@@ -119,6 +119,19 @@ std::string SoundServer::control(const std::string& command) const {
     return text;
 }
 
+void SoundServer::addSource(const std::string& name, const std::string& description) const {
+    const std::string described = "description='" + description + "'";
+    control(kind_ == ServerKind::pulseAudio
+                ? "load-module module-null-source source_name=" + name + " \"" + described + '"'
+                : "load-module module-null-sink media.class=Audio/Source/Virtual sink_name=" + name +
+                      " \"sink_properties=device." + described + '"');
+    const auto end = std::chrono::steady_clock::now() + longestStart;
+    while (control("list short sources").find('\t' + name + '\t') == std::string::npos) {
+        if (std::chrono::steady_clock::now() > end) throw std::runtime_error(name + " doesn't appear");
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+}
+
 std::string SoundServer::moduleOf(const std::string& deviceName) const {
     std::istringstream modules(control("list short modules"));
     for (std::string line; std::getline(modules, line);) {

@@ -39,6 +39,9 @@ class SoundServer {
     /// A command of `pactl`; tells what it answered. What a command fails with is an empty answer.
     std::string control(const std::string& command) const;
 
+    /// A source that delivers silence. Waits until it is listed.
+    void addSource(const std::string& name, const std::string& description) const;
+
     /// Number of the module that made a sink or a source.
     std::string moduleOf(const std::string& deviceName) const;
 
