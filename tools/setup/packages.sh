@@ -2,13 +2,13 @@
 
 build_packages=(
     ca-certificates ccache cmake g++ ninja-build pkg-config
-    libfluidsynth-dev libpulse-dev libreaderwriterqueue-dev libsamplerate0-dev libsndfile1-dev qt6-base-dev
+    libdbus-1-dev libfluidsynth-dev libpulse-dev libreaderwriterqueue-dev libsamplerate0-dev libsndfile1-dev qt6-base-dev
     fluid-soundfont-gm fonts-dejavu-core wamerican
 )
 test_packages=(
     clang-format clang-tidy-19 git googletest libgmock-dev libgtest-dev procps
     chromium chromium-driver poppler-utils sox
-    dbus pipewire pipewire-pulse pulseaudio pulseaudio-utils wireplumber
+    dbus pipewire pipewire-pulse polkitd pulseaudio pulseaudio-utils rtkit wireplumber
 )
 bench_packages=(
     cmt ecasound googletest libgmock-dev libgtest-dev sox

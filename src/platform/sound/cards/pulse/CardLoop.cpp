@@ -1,12 +1,10 @@
 #include "platform/sound/cards/pulse/CardLoop.h"
 
-#include <pthread.h>
-#include <sched.h>
-
 #include <algorithm>
 
 #include "platform/base/Check.h"
 #include "platform/sound/cards/pulse/CardShare.h"
+#include "platform/sound/cards/pulse/realTime.h"
 
 namespace lyrebrook {
 namespace {
@@ -18,13 +16,6 @@ constexpr std::chrono::seconds keptOpen{5};
 
 /// A person is told of what lasts.
 constexpr std::chrono::milliseconds patience{1000};
-
-/// Sound doesn't wait for other work where the user has the right to that; else it works as it is. What this process
-/// starts doesn't inherit it.
-void goBeforeOthers() {
-    constexpr sched_param modest{.sched_priority = 5};
-    pthread_setschedparam(pthread_self(), SCHED_RR | SCHED_RESET_ON_FORK, &modest);
-}
 
 }  // namespace
 
