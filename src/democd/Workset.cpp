@@ -1,5 +1,6 @@
 #include "democd/Workset.h"
 
+#include "platform/files/App.h"
 #include "shell/modINI.h"
 
 namespace lyrebrook {
@@ -16,6 +17,12 @@ QString withLineBreaks(QString text) {
     return text.replace(QStringLiteral("<br>"), QStringLiteral("\r\n"));
 }
 
+/// The workset that ships can't know where it will stand: it says "@PROGRAM_FOLDER@" where the program's folder
+/// belongs.
+QString withProgramFolder(QString path) {
+    return path.replace(QStringLiteral("@PROGRAM_FOLDER@"), App::Path());
+}
+
 /// One workset file, seen key by key. Key names compare without case: the photographs' are written and read in two
 /// spellings.
 class File {
@@ -25,6 +32,7 @@ class File {
     void write(const QString& key, const QString& value) const { writeProfileValue(section, key, value, path_); }
     QString read(const QString& key) const { return readProfileValue(section, key, {}, path_); }
     QString readLines(const QString& key) const { return withLineBreaks(read(key)); }
+    QString readPath(const QString& key) const { return withProgramFolder(read(key)); }
 
   private:
     static inline const QString section = QStringLiteral("Project Info");
@@ -91,11 +99,11 @@ Workset readWorkset(const QString& path) {
                     .photos = {}};
     for (std::size_t i = 0; i < workset.songs.size(); ++i) {
         workset.songs[i] = {file.read(songKey(i, "Title")),
-                            {file.read(songKey(i, "Path")), file.read(songKey(i, "PathLong"))}};
+                            {file.read(songKey(i, "Path")), file.readPath(songKey(i, "PathLong"))}};
     }
     for (std::size_t i = 0; i < workset.photos.size(); ++i) {
         workset.photos[i] = {file.readLines(photoKey("PhotoDesc", i)),
-                             {file.read(photoKey("PhotoPath", i)), file.read(photoKey("PhotoPathLong", i))}};
+                             {file.read(photoKey("PhotoPath", i)), file.readPath(photoKey("PhotoPathLong", i))}};
     }
     return workset;
 }

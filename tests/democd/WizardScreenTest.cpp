@@ -38,22 +38,20 @@ TEST_F(WizardScreen, ListsWorksetsAndNoSongs) {
 TEST_F(WizardScreen, PicksFilesWithAKnownEndingAnywhereInTheirNames) {
     const auto song = [this](const QString& file) { choose(frmDemoCD->cmdOpenSong, 2, file); };
     const auto photo = [this](const QString& file) { choose(frmDemoCD->cmdOpenPhoto, 2, file); };
-    const QString longName = QString(200, u'b') + ".mp3";
-    for (const QString& name : {QString("Song.MID"), QString("song.mid.txt"), longName}) {
+    for (const QString& name : {QString("Song.MID"), QString(200, u'b') + ".mp3", QString("song.mid.txt")}) {
         song("/a/" + name);
-        EXPECT_EQ(frmDemoCD->txtPathLong[2].Text(), "/a/" + name);
-        EXPECT_EQ(frmDemoCD->lblPath[2].Caption(), name);
+        EXPECT_EQ(frmDemoCD->txtPathLong[2].Text() + frmDemoCD->lblPath[2].Caption(), "/a/" + name + name);
     }
     EXPECT_EQ(saidDuring(1, [&] { song("/a.mp3/song.ogg"); }),
               QStringList{"You can only select audio files with the following extensions; *.Mid, *.Midi, *.Wav, "
                           "*.Mp3"});
     song({});
-    EXPECT_EQ(frmDemoCD->txtPathLong[2].Text(), "/a/" + longName);
+    EXPECT_EQ(frmDemoCD->txtPathLong[2].Text(), "/a/song.mid.txt");
 
+    photo("/a/Me.Jpg");
     EXPECT_EQ(saidDuring(1, [&] { photo("/a/me.jpeg"); }),
               QStringList{"You can only images with the following extensions: *.Jpeg, *.Gif"});
-    photo("/a/Me.Jpg");
-    EXPECT_EQ(frmDemoCD->txtPhotoPath[2].Caption(), "Me.Jpg");
+    EXPECT_EQ(frmDemoCD->txtPhotoPathLong[2].Text() + frmDemoCD->txtPhotoPath[2].Caption(), "/a/Me.JpgMe.Jpg");
     frmDemoCD->txtPhotoDesc[2].setText("me");
     frmDemoCD->cmdDeletePhoto[2].setValue(true);
     EXPECT_EQ(frmDemoCD->txtPhotoPath[2].Caption() + frmDemoCD->txtPhotoDesc[2].Text(), "Not selected");
@@ -77,6 +75,7 @@ TEST_F(WizardScreen, LoadsWhatTheFileHoldsAndEmptiesTheRest) {
     for (const auto& [key, value] : {std::pair<QString, QString>("artistName", "Bo"),
                                      {"photopath3", "b.gif"},
                                      {"PhotoDesc3", "a<br>b"},
+                                     {"Song3PathLong", "@PROGRAM_FOLDER@/DemoCD_Example/Demo1/a.wav"},
                                      {"CV", longest + "<br>cut off"}}) {
         writeProfileValue("Project Info", key, value, path("projects/Old.xon"));
     }
@@ -86,6 +85,7 @@ TEST_F(WizardScreen, LoadsWhatTheFileHoldsAndEmptiesTheRest) {
     frmDemoCD->comTitles.setListIndex(0);
     EXPECT_EQ(frmDemoCD->txtName.Text(), "Bo");
     EXPECT_EQ(frmDemoCD->txtPhotoPath[3].Caption() + frmDemoCD->txtPhotoDesc[3].Text(), "b.gifa\r\nb");
+    EXPECT_EQ(frmDemoCD->txtPathLong[3].Text(), path("DemoCD_Example/Demo1/a.wav"));
     EXPECT_EQ(frmDemoCD->txtCV.Text(), longest + "\r\n");
     EXPECT_EQ(frmDemoCD->txtEmail.Text() + frmDemoCD->lblPath[1].Caption() + frmDemoCD->txtPathLong[1].Text(), "");
     EXPECT_FALSE(frmDemoCD->frmMessage.Visible());

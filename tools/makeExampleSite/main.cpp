@@ -1,5 +1,5 @@
-// Makes a site from a workset file, as the wizard does: makeExampleSite WORKSET TEMPLATES SITE. The folder SITE must
-// exist.
+// Makes a site from a workset file, as the wizard does in the program folder PROGRAM: makeExampleSite WORKSET PROGRAM
+// TEMPLATES SITE. The folder SITE must exist.
 #include <QDir>
 #include <QFile>
 #include <cstdio>
@@ -7,6 +7,7 @@
 #include "democd/MediaFolder.h"
 #include "democd/SiteGenerator.h"
 #include "platform/base/RuntimeError.h"
+#include "platform/files/App.h"
 
 namespace lyrebrook {
 namespace {
@@ -33,14 +34,15 @@ bool makeSite(const QString& worksetPath, const QString& templates, const QStrin
 
 int main(int argumentCount, char** arguments) {
     using namespace lyrebrook;
-    if (argumentCount != 4) {
-        std::fputs("usage: makeExampleSite WORKSET TEMPLATES SITE\n", stderr);
+    if (argumentCount != 5) {
+        std::fputs("usage: makeExampleSite WORKSET PROGRAM TEMPLATES SITE\n", stderr);
         return 2;
     }
+    App::setPath(folderText(arguments[2]));
     try {
-        return makeSite(QFile::decodeName(arguments[1]), folderText(arguments[2]), folderText(arguments[3])) ? 0 : 1;
+        return makeSite(QFile::decodeName(arguments[1]), folderText(arguments[3]), folderText(arguments[4])) ? 0 : 1;
     } catch (const RuntimeError& error) {
-        std::fprintf(stderr, "%s: %s\n", arguments[3], error.what());
+        std::fprintf(stderr, "%s: %s\n", arguments[4], error.what());
         return 1;
     }
 }

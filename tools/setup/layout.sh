@@ -24,17 +24,9 @@ ship() {
     echo "$(checksum "$source")  $name" >>"$folder/.shipped"
 }
 
-# place_workset SOURCE FOLDER: a workset as it is laid out. It names its files by full paths, so it learns where it stands.
-place_workset() {
-    local text here
-    text=$(<"$1")
-    here=$(realpath "$2")
-    printf '%s\n' "${text//@PROGRAM_FOLDER@/"$here"}"
-}
-
 # lay_out BUILD FOLDER: brings FOLDER up to date with the build in BUILD.
 lay_out() {
-    local build=$1 folder=$2 name tree source
+    local build=$1 folder=$2 name tree
     for name in "${data_folders[@]}"; do mkdir -p "$folder/$name"; done
     if ! cmp -s "$build/bin/lyrebrook" "$folder/lyrebrook"; then
         cp "$build/bin/lyrebrook" "$folder/lyrebrook.new"
@@ -42,14 +34,10 @@ lay_out() {
     fi
     for tree in data "$build/data"; do
         while IFS= read -r name; do
-            source=$tree/$name
-            case $name in
-                projects/*.xon) source=$build/placedWorkset && place_workset "$tree/$name" "$folder" >"$source" ;;
-            esac
-            ship "$source" "$folder" "$name"
+            ship "$tree/$name" "$folder" "$name"
         done < <(cd "$tree" && find . -type f -printf '%P\n')
         while IFS= read -r name; do
-            [ -e "$folder/$name" ] || cp -P "$tree/$name" "$folder/$name"
+            [ -e "$folder/$name" ] || [ -L "$folder/$name" ] || cp -P "$tree/$name" "$folder/$name"
         done < <(cd "$tree" && find . -type l -printf '%P\n')
     done
 }

@@ -31,13 +31,15 @@ bool holdsSongs(const QString& folder) {
     return true;
 }
 
-/// Installed files can be read-only, which a person's copies must not be.
+/// Installed files can be read-only, which a person's copies must not be. A second name of a folder stays one.
 void copyTree(const std::filesystem::path& from, const std::filesystem::path& to) {
     namespace fs = std::filesystem;
     fs::create_directories(to);
     for (const auto& entry : fs::directory_iterator(from)) {
         const fs::path target = to / entry.path().filename();
-        if (entry.is_directory()) {
+        if (entry.is_symlink() && entry.is_directory()) {
+            fs::copy_symlink(entry.path(), target);
+        } else if (entry.is_directory()) {
             copyTree(entry.path(), target);
         } else if (entry.is_regular_file()) {
             fs::copy_file(entry.path(), target);

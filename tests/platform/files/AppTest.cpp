@@ -13,7 +13,10 @@ TEST_F(AppTest, ThePersonsFolderIsFilledOnceFromTheInstalledData) {
     QDir().mkpath(path("installed/templates/cdRedPlayer/images"));
     QFile::setPermissions(holding("installed/database/eng.xon", "song"), QFile::ReadOwner);
     holding("installed/templates/cdRedPlayer/images/a.gif", "GIF");
+    QFile::link("images", path("installed/templates/cdRedPlayer/pictures"));
     EXPECT_EQ(dataFolder(places), path("user"));
+    EXPECT_EQ(QFileInfo(path("user/templates/cdRedPlayer/pictures")).symLinkTarget(),
+              path("user/templates/cdRedPlayer/images"));
     EXPECT_EQ(bytesOf("user/templates/cdRedPlayer/images/a.gif"), "GIF");
     EXPECT_TRUE(QFileInfo(path("user/playlists")).isDir());
     EXPECT_TRUE(QFile::permissions(path("user/database/eng.xon")) & QFile::WriteOwner);
