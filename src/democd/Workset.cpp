@@ -1,6 +1,7 @@
 #include "democd/Workset.h"
 
 #include "platform/files/App.h"
+#include "platform/files/ProfileFile.h"
 #include "shell/modINI.h"
 
 namespace lyrebrook {
@@ -63,6 +64,7 @@ WorksetHtml htmlOf(const Workset& workset) {
 }
 
 void writeWorkset(const QString& path, const QString& title, const Workset& workset, const WorksetHtml& html) {
+    const ProfileTransaction allOrNothing(path);
     const File file(path);
     file.write(QStringLiteral("projectName"), title);
     file.write(QStringLiteral("artistName"), workset.artistName);

@@ -43,8 +43,8 @@ struct WorksetHtml {
 };
 WorksetHtml htmlOf(const Workset& workset);
 
-/// Writes a profile file, key by key; of the texts with line breaks it takes those in `html`. A failed write goes
-/// unnoticed.
+/// Writes a profile file, key by key; of the texts with line breaks it takes those in `html`. A write that fails goes
+/// unnoticed and leaves the old file.
 void writeWorkset(const QString& path, const QString& title, const Workset& workset, const WorksetHtml& html);
 
 /// Reads it back; a key that is missing gives an empty text. A value longer than a profile file can tell is cut.

@@ -1,6 +1,7 @@
 #include "projects/SongData.h"
 
 #include "platform/base/Numbers.h"
+#include "platform/files/ProfileFile.h"
 #include "platform/files/Text.h"
 #include "shell/modConfig.h"
 #include "shell/modINI.h"
@@ -41,6 +42,7 @@ bool isSongDataFile(const QString& fileName) {
 }
 
 void writeSongData(const QString& path, const SongData& song) {
+    const ProfileTransaction allOrNothing(path);
     writeProfileValue(section, QStringLiteral("projectName"), song.projectName, path);
     writeProfileValue(section, QStringLiteral("projectCategory"), song.projectCategory, path);
     writeProfileValue(section, QStringLiteral("VoiceTrackOffset"), QString::number(song.voiceTrackOffset), path);

@@ -25,7 +25,7 @@ QString songDataPath(const QString& title);
 /// Whether a file of the projects folder counts as a song, by its bare name.
 bool isSongDataFile(const QString& fileName);
 
-/// Writes the three keys in their order. A failed write goes unnoticed.
+/// Writes the three keys in their order. A write that fails goes unnoticed and leaves the old file.
 void writeSongData(const QString& path, const SongData& song);
 
 /// Name and category; a missing file gives empty texts. The offset is read apart, since it can fail.

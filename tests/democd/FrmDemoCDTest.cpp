@@ -1,6 +1,7 @@
 #include "democd/FrmDemoCD.h"
 
 #include <QTimer>
+#include <filesystem>
 
 #include "democd/WizardDesk.h"
 #include "platform/files/FailingDisk.h"
@@ -130,23 +131,30 @@ TEST_F(Finalizing, AWorksetFromElsewhereWritesNothingOutsideItsFolder) {
         EXPECT_TRUE(namesIn("DemoCD/Demo1").isEmpty());
         EXPECT_FALSE(frmDemoCD->frmMessage.Visible() || frmDemoCD->lblFeedback.Visible() || stepIsDone());
     }
-    for (const char* name : {"", "wait...wav"}) {
-        frmDemoCD->lblPath[1].setCaption(name);
-        finalize();
-        EXPECT_EQ(namesIn("DemoCD/Demo1"), QStringList{*name ? name : "evil"});
-    }
+    frmDemoCD->lblPath[1].setCaption("wait...wav");
+    finalize();
+    EXPECT_EQ(namesIn("DemoCD/Demo1"), QStringList{"wait...wav"});
 }
 
-TEST_F(Finalizing, AMediaFolderThatIsALinkIsTakenAwayAndNotFollowed) {
+TEST_F(Finalizing, LinksAreReplacedAndNotFollowedAndAPersonsOwnNamesStay) {
     fillRequired();
+    choose(frmDemoCD->cmdOpenSong, 1, holding("songs/song.wav", "song"));
     QDir().mkdir(path("mine"));
-    holding("mine/song", "mine");
-    QFile::link(path("mine"), path("DemoCD/Demo1"));
-    QFile::link(path("mine"), path("DemoCD/demo1"));
+    holding("mine/song.wav", "mine");
+    for (const char* target : {"mine", "nowhere", "mine/song.wav"}) {
+        for (const char* name : {"DemoCD/Demo1", "DemoCD/demo1"}) {
+            std::filesystem::remove_all(path(name).toStdString());
+            EXPECT_TRUE(QFile::link(path(target), path(name)));
+        }
+        finalize();
+        EXPECT_EQ(bytesOf(path("mine/song.wav")), "mine");
+        EXPECT_FALSE(QFileInfo(path("DemoCD/Demo1")).isSymLink());
+        EXPECT_EQ(bytesOf(path("DemoCD/demo1/song.wav")), "song");
+    }
+    QFile::remove(path("DemoCD/demo1"));
+    holding("DemoCD/demo1", "a file of that name");
     finalize();
-    EXPECT_EQ(bytesOf(path("mine/song")), "mine");
-    EXPECT_FALSE(QFileInfo(path("DemoCD/Demo1")).isSymLink());
-    EXPECT_EQ(QFile::symLinkTarget(path("DemoCD/demo1")), path("DemoCD/Demo1"));
+    EXPECT_EQ(bytesOf(path("DemoCD/demo1")), "a file of that name");
 }
 
 TEST_F(Finalizing, AFolderThatFailsIsToldAndLeavesNoHalfOfAFile) {
@@ -167,6 +175,20 @@ TEST_F(Finalizing, AFolderThatFailsIsToldAndLeavesNoHalfOfAFile) {
     QDir().mkdir(path("DemoCD"));
     holding("DemoCD/Demo1", "a file of that name");
     EXPECT_EQ(saidDuring(1, finalize), deniedFor("File already exists"));
+}
+
+TEST_F(Finalizing, AWorksetIsWrittenAtOnceOrNotAtAll) {
+    const auto write = [&](const QString& artist, qsizetype room) {
+        FailingDisk disk;
+        disk.room = static_cast<std::size_t>(room);
+        Workset workset;
+        workset.artistName = workset.phone = artist;
+        writeWorkset(path("projects/One.xon"), "One", workset, {});
+        return bytesOf(path("projects/One.xon"));
+    };
+    const QByteArray old = write("Ada", 10'000);
+    EXPECT_EQ(write("Eve", old.size() - 1), old);
+    EXPECT_EQ(write("Eve", old.size()), QByteArray(old).replace("Ada", "Eve"));
 }
 
 TEST_F(Finalizing, ServesEventsWhileItCopiesAndOutlivesItsScreen) {

@@ -3,8 +3,10 @@
 #include <QByteArray>
 #include <QFileInfo>
 #include <optional>
+#include <utility>
 #include <vector>
 
+#include "platform/base/Check.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/TextEncoding.h"
@@ -140,12 +142,28 @@ QString onOneLine(QString value) {
     return value.left(value.indexOf(QChar(0)));
 }
 
+/// What a ProfileTransaction holds back. No content while nothing was changed.
+struct HeldFile {
+    QString file;
+    std::optional<QByteArray> content;
+};
+std::optional<HeldFile> held;
+
+bool isHeld(const QString& file) {
+    return held && held->file == file;
+}
+
+QByteArray contentOf(const QString& file) {
+    if (isHeld(file) && held->content) return *held->content;
+    return QFileInfo::exists(file) ? readFile(file) : QByteArray();
+}
+
 }  // namespace
 
 QString GetPrivateProfileString(const QString& section, const QString& key, const QString& defaultValue, int maxChars,
                                 const QString& file) {
     try {
-        const QByteArray bytes = readFile(file);
+        const QByteArray bytes = contentOf(file);
         const Profile profile(bytes);
         const ProfileLine* line = profile.find(section, key);
         return (line ? line->value : defaultValue).left(maxChars - 1);
@@ -157,12 +175,32 @@ QString GetPrivateProfileString(const QString& section, const QString& key, cons
 bool WritePrivateProfileString(const QString& section, const QString& key, const QString& value, const QString& file,
                                ReplacingFile::Flush flush) {
     try {
-        const QByteArray old = QFileInfo::exists(file) ? readFile(file) : QByteArray();
+        const QByteArray old = contentOf(file);
         const QByteArray updated = Profile(old).with(section, key, onOneLine(value));
-        if (updated != old) replaceFile(file, updated, flush);
+        if (updated == old) return true;
+        if (isHeld(file)) {
+            held->content = updated;
+        } else {
+            replaceFile(file, updated, flush);
+        }
         return true;
     } catch (const RuntimeError&) {
         return false;
+    }
+}
+
+ProfileTransaction::ProfileTransaction(const QString& file) {
+    CHECK(!held);
+    held = HeldFile{file, {}};
+}
+
+ProfileTransaction::~ProfileTransaction() {
+    const HeldFile writes = *std::exchange(held, std::nullopt);
+    if (!writes.content) return;
+    try {
+        replaceFile(writes.file, *writes.content);
+    } catch (const RuntimeError&) {
+        // As unnoticed as a single write that fails.
     }
 }
 

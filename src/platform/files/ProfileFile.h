@@ -23,4 +23,14 @@ QString GetPrivateProfileString(const QString& section, const QString& key, cons
 bool WritePrivateProfileString(const QString& section, const QString& key, const QString& value, const QString& file,
                                ReplacingFile::Flush flush = ReplacingFile::Flush::toDisk);
 
+/// Holds back what is written to one profile file until its own end, and then replaces the file once: with all of it
+/// or, when that fails, with nothing, which goes unnoticed. Reading finds what was written. One at a time.
+class ProfileTransaction {
+  public:
+    explicit ProfileTransaction(const QString& file);
+    ~ProfileTransaction();
+    ProfileTransaction(const ProfileTransaction&) = delete;
+    ProfileTransaction& operator=(const ProfileTransaction&) = delete;
+};
+
 }  // namespace lyrebrook

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "platform/files/FailingDisk.h"
 #include "platform/files/FilesFixture.h"
 #include "platform/files/Settings.h"
 
@@ -73,6 +74,21 @@ TEST_F(ProfileFileTest, AValueNeverBecomesALineOfTheFile) {
 TEST_F(ProfileFileTest, AValueIsCutToTheBuffer) {
     ASSERT_TRUE(write("Data", "title", QString(2046, u'é') + "xyz"));
     EXPECT_EQ(read("Data", "title"), QString(2046, u'é') + "x");
+}
+
+TEST_F(ProfileFileTest, WritesHeldTogetherReachTheDiskAllOrNone) {
+    holding("song.xon", "[Data]\r\na=old\r\n");
+    for (const std::size_t room : {10U, 100U}) {
+        FailingDisk disk;
+        disk.room = room;
+        {
+            const ProfileTransaction transaction(path("song.xon"));
+            EXPECT_TRUE(write("Data", "a", "1") && write("Data", "b", "2"));
+            EXPECT_EQ(read("Data", "a") + read("Data", "b"), "12");
+            EXPECT_EQ(bytesOf("song.xon"), "[Data]\r\na=old\r\n");
+        }
+        EXPECT_EQ(bytesOf("song.xon"), room < 100 ? "[Data]\r\na=old\r\n" : "[Data]\r\na=1\r\nb=2\r\n");
+    }
 }
 
 TEST_F(ProfileFileTest, AMissingFileReadsAsTheDefaultAndIsNotMade) {
