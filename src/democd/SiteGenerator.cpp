@@ -118,7 +118,8 @@ QString SiteGenerator::readTextFile(const QString& path) const {
 
 void SiteGenerator::writeTextFile(const QString& text, const QString& path) const {
     try {
-        TextStream stream = FileSystemObject().OpenTextFile(path, IOMode::forWriting, true);
+        // A page can be made again, so nobody waits for the disk.
+        TextStream stream = TextStream::openForWriting(path, ReplacingFile::Flush::leaveToSystem);
         stream.Write(text);
         stream.Close();
     } catch (const RuntimeError& error) {

@@ -30,7 +30,7 @@ class DiskCalls {
 class ReplacingFile {
   public:
     /// `toDisk` survives a power cut. `leaveToSystem` survives the end of the program and is meant for small things
-    /// that change many times a second.
+    /// that change many times a second, and for what can be made again.
     enum class Flush { toDisk, leaveToSystem };
 
     explicit ReplacingFile(const std::filesystem::path& path, Flush flush = Flush::toDisk);

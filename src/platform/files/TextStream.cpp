@@ -15,9 +15,9 @@ TextStream TextStream::openForReading(const QString& path) {
     return stream;
 }
 
-TextStream TextStream::openForWriting(const QString& path) {
+TextStream TextStream::openForWriting(const QString& path, ReplacingFile::Flush flush) {
     TextStream stream;
-    stream.target_ = std::make_unique<ReplacingFile>(nativePath(path));
+    stream.target_ = std::make_unique<ReplacingFile>(nativePath(path), flush);
     return stream;
 }
 

@@ -17,7 +17,7 @@ namespace lyrebrook {
 class TextStream {
   public:
     static TextStream openForReading(const QString& path);
-    static TextStream openForWriting(const QString& path);
+    static TextStream openForWriting(const QString& path, ReplacingFile::Flush flush = ReplacingFile::Flush::toDisk);
 
     bool AtEndOfStream() const;
     QString ReadLine();  ///< ends at CR LF, LF, a lone CR or the end of the file
