@@ -180,12 +180,12 @@ void FrmSelect::CmdSave_Click() {
 void FrmSelect::InitAudio() {
     try {
         music_.open(static_cast<std::int64_t>(window().winId()), *this);
-    } catch (const RuntimeError& error) {
+    } catch (const RuntimeError&) {
         MsgBox(QStringLiteral("Could not initialize DirectMusic.\r\nThis program will end."), vbInformation,
                QStringLiteral("Exiting..."));
         CloseAudio();
         frmSelect.Unload();
-        desktop().endProgram();
+        endProgram();
     }
 }
 
