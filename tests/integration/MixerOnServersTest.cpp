@@ -102,6 +102,17 @@ TEST_P(MixerOnServers, SelectingMovesTheCaptureAndTheDefaultSource) {
     EXPECT_EQ(desk->selected(), "Stereo Mix");
 }
 
+TEST_P(MixerOnServers, ASourceMayBeLeftWhileTheServerStillAnswersForIt) {
+    for (int times = 0; times < 80; ++times) {
+        desk->select("Stereo Mix");
+        wait(std::chrono::milliseconds(25 + times % 20));
+        desk->select("Song Mix");
+        wait(2ms);
+    }
+    desk->select("Singer");
+    EXPECT_TRUE(capturesFrom("singer"));
+}
+
 TEST_P(MixerOnServers, ADefaultSourceThatSomebodyChoseMovesTheSelection) {
     selectStereoMix();
     sound.server.control("set-default-source singer");

@@ -6,7 +6,8 @@
 
 namespace lyrebrook {
 
-/// Takes a thing of the server's client library down. No callback of it comes afterwards.
+/// Takes a thing of the server's client library down. No callback of it comes afterwards, but for the answers to
+/// requests that are under way.
 struct PulseFree {
     void operator()(pa_mainloop* loop) const noexcept { pa_mainloop_free(loop); }
     void operator()(pa_proplist* list) const noexcept { pa_proplist_free(list); }

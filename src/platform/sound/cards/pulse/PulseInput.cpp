@@ -121,11 +121,14 @@ void PulseInput::askTiming(CardMoment now) {
     lastAsked_ = now;
     output_.askTiming();
     forget(pa_stream_update_timing_info(
-        stream_.get(), [](pa_stream*, int, void* self) { static_cast<PulseInput*>(self)->takeTiming(); }, this));
+        stream_.get(), [](pa_stream* stream, int, void* self) { static_cast<PulseInput*>(self)->takeTiming(*stream); },
+        this));
 }
 
-void PulseInput::takeTiming() {
-    const auto sight = recordSight(*stream_);
+/// The answer may come when its stream has been closed.
+void PulseInput::takeTiming(pa_stream& stream) {
+    if (&stream != stream_.get()) return;
+    const auto sight = recordSight(stream);
     if (sight) lead_.see(output_.soundingAtLastRound(sight->at) - sight->position);
 }
 

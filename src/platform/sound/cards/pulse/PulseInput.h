@@ -39,7 +39,7 @@ class PulseInput {
     void measureAnew();
     void takeFrames();
     void askTiming(CardMoment now);
-    void takeTiming();
+    void takeTiming(pa_stream& stream);
 
     PulseOutput& output_;
     RecordingSource source_;
