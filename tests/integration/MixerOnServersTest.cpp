@@ -91,6 +91,19 @@ TEST_P(MixerOnServers, VolumeAndMuteAgreeWithOtherProgramsBothWays) {
     EXPECT_TRUE(serverSays("get-source-volume desk.monitor", "50%"));
 }
 
+TEST_P(MixerOnServers, WhatIsSetLastStandsHoweverSoonItComes) {
+    for (const auto gap : {0us, 200us, 500us, 1000us, 2000us, 5000us, 20000us}) {
+        desk->set(master, volume, {0, 0});
+        desk->set(master, mute, {1});
+        std::this_thread::sleep_for(gap);
+        desk->set(master, volume, {65535, 65535});
+        desk->set(master, mute, {0});
+        wait(150ms);
+        EXPECT_TRUE(serverSays("get-sink-volume desk", "front-left: 65536 ")) << gap.count();
+        EXPECT_TRUE(serverSays("get-sink-mute desk", "no")) << gap.count();
+    }
+}
+
 TEST_P(MixerOnServers, SelectingMovesTheCaptureAndTheDefaultSource) {
     desk->select("Singer");
     EXPECT_EQ(desk->selected(), "Singer");

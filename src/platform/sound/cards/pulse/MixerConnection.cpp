@@ -109,6 +109,7 @@ void MixerConnection::keepUp(CardMoment now) {
     if (lost) {
         subscribed_ = false;
         asking_ = false;
+        unanswered_ = 0;
     }
     const bool ready = !lost && server_.ready();
     if (ready && !subscribed_) subscribe();
@@ -138,7 +139,10 @@ void MixerConnection::subscribe() {
     forget(pa_context_subscribe(server_.context(), all, nullptr, nullptr));
 }
 
+/// One batch at a time, the later ones waiting: a server may pass over a level that it holds to be set already, because
+/// it hasn't yet taken note of the one before.
 void MixerConnection::sendOrders() {
+    if (unanswered_ > 0) return;
     std::vector<Order> orders;
     {
         const std::lock_guard lock(mutex_);
@@ -150,21 +154,26 @@ void MixerConnection::sendOrders() {
 }
 
 void MixerConnection::send(const Order& order) {
+    pa_operation* const operation = begin(order);
+    if (operation == nullptr) return;
+    ++unanswered_;
+    forget(operation);
+}
+
+pa_operation* MixerConnection::begin(const Order& order) {
     pa_context* const server = server_.context();
-    if (const auto* source = std::get_if<DefaultSource>(&order)) {
-        forget(pa_context_set_default_source(server, source->name.c_str(), nullptr, nullptr));
-        return;
-    }
-    const auto& setting = std::get<MixerOrder>(order);
-    const bool sink = setting.side == PulseSide::sink;
-    if (const auto* level = std::get_if<SetVolume>(&setting.what)) {
+    const auto answered = [](pa_context*, int, void* self) { --static_cast<MixerConnection*>(self)->unanswered_; };
+    if (const auto* source = std::get_if<DefaultSource>(&order))
+        return pa_context_set_default_source(server, source->name.c_str(), answered, this);
+    const auto& [side, what] = std::get<MixerOrder>(order);
+    const bool sink = side == PulseSide::sink;
+    if (const auto* level = std::get_if<SetVolume>(&what)) {
         const auto set = sink ? pa_context_set_sink_volume_by_name : pa_context_set_source_volume_by_name;
-        forget(set(server, level->device.c_str(), &level->volume, nullptr, nullptr));
+        return set(server, level->device.c_str(), &level->volume, answered, this);
     }
-    if (const auto* mute = std::get_if<SetMute>(&setting.what)) {
-        const auto set = sink ? pa_context_set_sink_mute_by_name : pa_context_set_source_mute_by_name;
-        forget(set(server, mute->device.c_str(), mute->muted ? 1 : 0, nullptr, nullptr));
-    }
+    const auto& mute = std::get<SetMute>(what);
+    const auto set = sink ? pa_context_set_sink_mute_by_name : pa_context_set_source_mute_by_name;
+    return set(server, mute.device.c_str(), mute.muted ? 1 : 0, answered, this);
 }
 
 /// The answers come in the order of the questions, and after the orders that were sent before.

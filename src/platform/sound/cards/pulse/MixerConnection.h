@@ -65,6 +65,7 @@ class MixerConnection {
     void subscribe();
     void sendOrders();
     void send(const Order& order);
+    pa_operation* begin(const Order& order);
     void ask(CardMoment now);
     void takeServer(const pa_server_info* info);
     void takeSink(const pa_sink_info* info, int end);
@@ -84,6 +85,7 @@ class MixerConnection {
     bool asking_ = false;
     std::uint64_t sentBeforeAsking_ = 0;
     std::uint64_t sent_ = 0;
+    int unanswered_ = 0;  // orders of the last batch
     CardMoment asked_;
 
     // Between the threads.
