@@ -268,12 +268,13 @@ QBoxLayout* FrmVolumeMixer::layOutMeters() {
 }
 
 QBoxLayout* FrmVolumeMixer::layOutBottom() {
-    auto* devices = new QHBoxLayout(Frame2.widget());
+    auto* devices = new QVBoxLayout(Frame2.widget());
     devices->setContentsMargins(0, 0, 0, 0);
+    devices->setSpacing(3);
     devices->addWidget(lstMixerDevs, 1);
-    devices->addWidget(cmdSelectMixerDev, 0, Qt::AlignBottom);
+    devices->addWidget(cmdSelectMixerDev, 0, Qt::AlignRight);
     cmdSelectMixerDev.setLook(Look::compact);
-    cmdSelectMixerDev.widget()->setFixedSize(54, 28);
+    cmdSelectMixerDev.widget()->setFixedSize(62, 22);
     auto* feedback = new QVBoxLayout(Frame4.widget());
     feedback->setContentsMargins(0, 0, 0, 0);
     feedback->addWidget(txtFeedback);

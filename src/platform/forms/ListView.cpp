@@ -1,8 +1,10 @@
 #include "platform/forms/ListView.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <utility>
 
 #include "platform/forms/Boundary.h"
@@ -35,6 +37,15 @@ ListView::ListView(QWidget* container) : QListWidget(container) {
 int ListView::selectedLine() const {
     const QModelIndexList selected = selectedIndexes();
     return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+bool ListView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QListWidget::viewportEvent(event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    const QModelIndex line = indexAt(help.pos());
+    if (sizeHintForIndex(line).width() <= viewport()->width()) return QListWidget::viewportEvent(event);
+    QToolTip::showText(help.globalPos(), itemFromIndex(line)->text(), viewport(), visualRect(line));
+    return true;
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {

@@ -149,7 +149,7 @@ void QtDesktop::DoEvents() {
 
 void QtDesktop::waitWhile(const std::function<bool()>& condition) {
     QTimer clock;  // wakes the loop for conditions that only time changes
-    clock.start(20);
+    clock.start(100);
     while (condition()) QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }
 

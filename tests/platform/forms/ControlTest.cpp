@@ -1,7 +1,9 @@
 #include "platform/forms/Control.h"
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 
 #include "Diary.h"
 #include "platform/base/RuntimeError.h"
@@ -9,6 +11,7 @@
 #include "platform/forms/Frame.h"
 #include "platform/forms/Line.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListView.h"
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/ScrollBar.h"
 #include "platform/forms/Shape.h"
@@ -130,6 +133,21 @@ TEST_F(Controls, ListKeepsItsSelectionOnlyWithItsLine) {
     EXPECT_EQ(view.list.ListIndex(), -1);
     EXPECT_THROW(view.list.RemoveItem(1), RuntimeError);
     EXPECT_THROW(view.list.RemoveItem(-1), RuntimeError);
+}
+
+TEST_F(Controls, ALineThatIsCutIsShownWholeByATip) {
+    frmView.Show();
+    view.list.Move(0, 0, 1500, 1500);
+    const QString longLine = QStringLiteral("Device #0:    Built-in Audio Analog Stereo");
+    view.list.AddItem(longLine);
+    view.list.AddItem(QStringLiteral("a"));
+    auto& lines = static_cast<ListView&>(*view.list.widget());
+    for (const int line : {1, 0}) {
+        const QPoint place = lines.visualItemRect(lines.item(line)).center();
+        QHelpEvent help(QEvent::ToolTip, place, place);
+        QCoreApplication::sendEvent(lines.viewport(), &help);
+        EXPECT_EQ(QToolTip::text(), line == 0 ? longLine : QString());
+    }
 }
 
 TEST_F(Controls, LinesOfAPageAreJoinedByCarriageReturnAndLineFeed) {
