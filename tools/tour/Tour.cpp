@@ -1,13 +1,12 @@
 #include "Tour.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QMainWindow>
-#include <QPixmap>
 #include <QTextStream>
 #include <cmath>
 #include <stdexcept>
+
+#include "pictures.h"
 
 namespace lyrebrook {
 namespace {
@@ -16,15 +15,6 @@ int peakOf(std::span<const StereoFrame> frames) {
     int peak = 0;
     for (const StereoFrame& frame : frames) peak = std::max({peak, std::abs(frame.left), std::abs(frame.right)});
     return peak;
-}
-
-/// As a desktop at 200 percent shows it.
-QPixmap doubled(QMainWindow& window) {
-    constexpr int scale = 2;
-    QPixmap picture(window.size() * scale);
-    picture.setDevicePixelRatio(scale);
-    window.render(&picture);
-    return picture;
 }
 
 }  // namespace
@@ -42,12 +32,7 @@ QString Tour::nextPicture(const QString& name) {
 }
 
 void Tour::picture(Form& form, const QString& name) {
-    QCoreApplication::processEvents();
-    QMainWindow& window = form.window();
-    const QString file = nextPicture(name);
-    const bool saved =
-        window.grab().save(screens_ + file) && doubled(window).save(screens_ + QStringLiteral("200/") + file);
-    require(saved, QStringLiteral("a picture of ") + name);
+    require(savePicture(form, screens_, nextPicture(name)), QStringLiteral("a picture of ") + name);
 }
 
 void Tour::picture(const QByteArray& png, const QString& name) {

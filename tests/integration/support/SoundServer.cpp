@@ -121,10 +121,12 @@ std::string SoundServer::control(const std::string& command) const {
 
 void SoundServer::addSource(const std::string& name, const std::string& description) const {
     const std::string described = "description='" + description + "'";
-    control(kind_ == ServerKind::pulseAudio
-                ? "load-module module-null-source source_name=" + name + " \"" + described + '"'
-                : "load-module module-null-sink media.class=Audio/Source/Virtual sink_name=" + name +
-                      " \"sink_properties=device." + described + '"');
+    if (kind_ == ServerKind::pulseAudio) {
+        control("load-module module-null-source source_name=" + name + " \"" + described + '"');
+    } else {
+        control("load-module module-null-sink media.class=Audio/Source/Virtual sink_name=" + name +
+                " \"sink_properties=\\\"device." + described + "\\\"\"");
+    }
     const auto end = std::chrono::steady_clock::now() + longestStart;
     while (control("list short sources").find('\t' + name + '\t') == std::string::npos) {
         if (std::chrono::steady_clock::now() > end) throw std::runtime_error(name + " doesn't appear");
