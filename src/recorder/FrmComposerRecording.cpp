@@ -117,7 +117,7 @@ FrmComposer::Saved FrmComposer::saveTake() {
         MsgBox(QStringLiteral("Recording failed. Possibly, out of buffer space."), vbCritical);
         return Saved::no;
     }
-    const bool saved = saveSound(*merged, trackFilePath(armed()));
+    const bool saved = saveSoundOrAsk(*merged, trackFilePath(armed()));
     if (saved) takeOver(std::move(merged));
     setPositionToCursor();
     return saved ? Saved::yes : Saved::no;

@@ -16,6 +16,19 @@ namespace {
     endProgram();
 }
 
+/// Empty when it is saved, else what is to be told.
+QString failureToSave(const DirectSoundSecondaryBuffer8& sound, const QString& path) {
+    try {
+        sound.SaveToFile(path.toStdString());
+        return {};
+    } catch (const RuntimeError& error) {
+        return QStringLiteral(
+                   "Song data could not be saved. Is the file open or locked by another application? Error: ") +
+               QString::number(error.number()) + QStringLiteral(" | Desc: ") +
+               QString::fromStdString(error.description());
+    }
+}
+
 }  // namespace
 
 std::unique_ptr<DirectSound8> openPlayback(DirectX8& dx) {
@@ -35,15 +48,17 @@ std::unique_ptr<DirectSoundCapture8> openRecording(DirectX8& dx) {
 }
 
 bool saveSound(const DirectSoundSecondaryBuffer8& sound, const QString& path) {
-    try {
-        sound.SaveToFile(path.toStdString());
-        return true;
-    } catch (const RuntimeError& error) {
-        MsgBox(
-            QStringLiteral("Song data could not be saved. Is the file open or locked by another application? Error: ") +
-            QString::number(error.number()) + QStringLiteral(" | Desc: ") +
-            QString::fromStdString(error.description()));
-        return false;
+    const QString failure = failureToSave(sound, path);
+    if (!failure.isEmpty()) MsgBox(failure);
+    return failure.isEmpty();
+}
+
+bool saveSoundOrAsk(const DirectSoundSecondaryBuffer8& sound, const QString& path) {
+    const QString question = QStringLiteral("\r\n\r\nThe take is still there. Try to save it again?");
+    for (;;) {
+        const QString failure = failureToSave(sound, path);
+        if (failure.isEmpty()) return true;
+        if (MsgBox(failure + question, vbYesNo + vbExclamation) != vbYes) return false;
     }
 }
 

@@ -292,18 +292,32 @@ TEST_P(FailedSave, KeepsTheOldTrackAndSaysSo) {
     FailingDisk disk;
     if (GetParam().number == 61) disk.room = 1000;
     if (GetParam().number == 70) QFile::setPermissions(trackFilePath(2), QFile::ReadOwner);
-    desk().willAnswer(vbOK);
+    desk().willAnswer(vbNo);
     clickStop();
     expectBoxes(Box{QStringLiteral("Song data could not be saved. Is the file open or locked by another application? "
-                                   "Error: %1 | Desc: %2")
+                                   "Error: %1 | Desc: %2\r\n\r\nThe take is still there. Try to save it again?")
                         .arg(GetParam().number)
-                        .arg(QString::fromLatin1(GetParam().words))});
+                        .arg(QString::fromLatin1(GetParam().words)),
+                    vbYesNo + vbExclamation});
     EXPECT_EQ(fileOf(2), old);
     EXPECT_FALSE(recording());
     disk.room = SIZE_MAX;
     frmComposer->cmdHome.setValue(true);
     clickPlay();
     EXPECT_NEAR(listen(1s).back().left, 101, 8) << "what is heard is the old track, too";
+}
+
+TEST_F(Recording, OfAFullDiskIsSavedOnceThereIsRoom) {
+    open();
+    clickRecord();
+    sings(tone(3 * second, 200));
+    FailingDisk disk;
+    disk.room = 1000;
+    desk().willAnswer(vbYes, [&disk] { disk.room = SIZE_MAX; });
+    clickStop();
+    EXPECT_EQ(desk().takeBoxes().size(), 1U);
+    EXPECT_EQ(track(2).size(), 3 * second);
+    EXPECT_FALSE(recording());
 }
 
 INSTANTIATE_TEST_SUITE_P(Obstacles, FailedSave,
