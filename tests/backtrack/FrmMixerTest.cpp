@@ -32,22 +32,22 @@ std::string pianoAndKnock() {
 class BacktrackRecorder : public Studio {
   protected:
     BacktrackRecorder() {
-        gSongName = QStringLiteral("My Song");
+        gSongName = "My Song";
         card().listen([this](Frames, std::span<const StereoFrame> frames) {
             heard.insert(heard.end(), frames.begin(), frames.end());
         });
     }
 
     QString giveBacktrack(const QString& name, const std::string& content) {
-        QFile file(path(QStringLiteral("tracks/Version1/") + name));
+        QFile file(path("tracks/Version1/" + name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content.data(), static_cast<qint64>(content.size()));
         return file.fileName();
     }
 
     void openWithWave(std::span<const StereoFrame> frames) {
-        giveWave(QStringLiteral("backtrack.wav"), frames);
-        open(path(QStringLiteral("songs/backtrack.wav")));
+        giveWave("backtrack.wav", frames);
+        open(path("songs/backtrack.wav"));
     }
 
     static void open(const QString& backtrack) {
@@ -80,7 +80,7 @@ class BacktrackRecorder : public Studio {
 };
 
 TEST_F(BacktrackRecorder, RecordsAMidiFromItsFirstFrameToTheLastOfItsRingOut) {
-    open(giveBacktrack(QStringLiteral("a.mid"), pianoAndKnock()));
+    open(giveBacktrack("a.mid", pianoAndKnock()));
     const Sound wave = recordToTheEnd();
     crank(3s);
     ASSERT_GT(wave.size(), 2 * framesPerSecond);
@@ -91,7 +91,7 @@ TEST_F(BacktrackRecorder, RecordsAMidiFromItsFirstFrameToTheLastOfItsRingOut) {
 }
 
 TEST_F(BacktrackRecorder, RecordsAWaveBitForBitAndReplacesTheEarlierRecording) {
-    giveWave(QStringLiteral("My Song_1.wav"), ramp(3 * framesPerSecond));
+    giveWave("My Song_1.wav", ramp(3 * framesPerSecond));
     const Sound backtrack = ramp(2 * framesPerSecond + 13);
     openWithWave(backtrack);
     const Sound wave = recordToTheEnd();
@@ -102,7 +102,7 @@ TEST_F(BacktrackRecorder, RecordsAWaveBitForBitAndReplacesTheEarlierRecording) {
 
 TEST_F(BacktrackRecorder, RecordsAtTheTempoThatIsSetAndEveryLoadSetsItBack) {
     const std::string fourSeconds = knock(0) + knock(100) + knock(100) + knock(100) + knock(100);
-    open(giveBacktrack(QStringLiteral("a.mid"), midiFile({fourSeconds + endOfTrack})));
+    open(giveBacktrack("a.mid", midiFile({fourSeconds + endOfTrack})));
     const auto normal = static_cast<double>(recordToTheEnd().size());
     frmMixer->sldTempo.setValue(20);
     const auto twice = static_cast<double>(recordToTheEnd().size());
@@ -117,50 +117,39 @@ TEST_F(BacktrackRecorder, KeepsTheFirstSevenMinutesOfALongerBacktrack) {
     EXPECT_EQ(QFileInfo(trackFilePath(1)).size(), 74'088'044);
 }
 
-TEST_F(BacktrackRecorder, RecordsAnExternalSourceUntilStopWithTheBacktrackSilent) {
+TEST_F(BacktrackRecorder, RecordsAnExternalSourceUntilStopAndTellsWhenNothingArrives) {
+    const auto notice = [] { return frmMixer->lblNotice.Caption(); };
     openWithWave(ramp(framesPerSecond));
-    frmMixer->checkSource.setValue(1);
-    const Sound singer(3 * framesPerSecond, StereoFrame{-4321, 1234});
-    clickRecord();
-    card().feed(CardLine::lineIn, singer);
-    crank(2s);
-    EXPECT_EQ(frmMixer->lblRecording.Caption(), QStringLiteral("EXT. RECORDING"));
-    frmMixer->cmdStop.setValue(true);
-    EXPECT_EQ(recorded(), part(singer, 0, 2 * framesPerSecond));
-}
-
-TEST_F(BacktrackRecorder, TellsThatNothingArrivesUntilItDoesOrTheRecordingEnds) {
-    openWithWave(Sound(20 * framesPerSecond));
     crank(3s);
-    EXPECT_EQ(frmMixer->lblNotice.Caption(), QString());
+    EXPECT_EQ(notice(), "");
     frmMixer->checkSource.setValue(1);
     clickRecord();
     crank(2100ms);
-    EXPECT_EQ(frmMixer->lblNotice.Caption(), QStringLiteral("No sound is arriving from the recording source."));
+    EXPECT_EQ(notice(), "No sound is arriving from the recording source.");
+    const Sound singer(3 * framesPerSecond, StereoFrame{-4321, 1234});
+    card().feed(CardLine::lineIn, singer);
+    crank(2s);
+    EXPECT_EQ(frmMixer->lblRecording.Caption() + notice(), "EXT. RECORDING");
     frmMixer->cmdStop.setValue(true);
-    crank(100ms);
-    EXPECT_EQ(frmMixer->lblNotice.Caption(), QString());
+    const Sound wave = recorded();
+    EXPECT_EQ(part(wave, wave.size() - 2 * framesPerSecond, wave.size()), part(singer, 0, 2 * framesPerSecond));
+    EXPECT_THAT(part(wave, 0, 2 * framesPerSecond), Each(StereoFrame{})) << "the backtrack is silent";
 }
 
-TEST_F(BacktrackRecorder, TellsARecordingWithoutSoundAndKeepsTheEarlierOne) {
-    giveWave(QStringLiteral("My Song_1.wav"), ramp(500));
+TEST_F(BacktrackRecorder, TellsARecordingThatIsEmptyOrCantBeSavedAndIsReadyForTheNext) {
+    giveWave("My Song_1.wav", ramp(500));
     openWithWave(ramp(framesPerSecond));
     clickRecord();
     desk().willAnswer(vbOK);
     frmMixer->cmdStop.setValue(true);
-    expectBox({QStringLiteral("Recording failed. Possibly, out of buffer space."), vbCritical});
-    EXPECT_EQ(recorded(), ramp(500));
-    EXPECT_TRUE(isReady());
-}
-
-TEST_F(BacktrackRecorder, TellsARecordingThatCantBeSavedAndIsReadyForTheNext) {
-    openWithWave(ramp(framesPerSecond));
-    gSongsFolder = path(QStringLiteral("missing/"));
+    expectBox({"Recording failed. Possibly, out of buffer space.", vbCritical});
+    EXPECT_EQ(recorded(), ramp(500)) << "the earlier one stays";
+    gSongsFolder = path("missing/");
     desk().willAnswer(vbOK);
     recordToTheEnd();
     expectBox(
-        {QStringLiteral("Song data could not be saved. Is the file open or locked by another application? "
-                        "Error: 76 | Desc: Path not found")});
+        {"Song data could not be saved. Is the file open or locked by another application? Error: 76 | Desc: Path not "
+         "found"});
     EXPECT_EQ(frmMixer->window().cursor().shape(), Qt::ArrowCursor) << "no hourglass stays";
     QDir().mkpath(gSongsFolder);
     EXPECT_EQ(part(recordToTheEnd(), 0, framesPerSecond), ramp(framesPerSecond));
@@ -178,24 +167,20 @@ TEST_F(BacktrackRecorder, ClosingSavesNothingAndLightsTheStepByTheFileAlone) {
     EXPECT_TRUE(frmIntro->picStatusN[2].standsAbove(frmIntro->picStatusY[2]));
 
     frmMixer.Show();
-    recordToTheEnd();
-    frmMixer.Unload();
-    EXPECT_TRUE(frmIntro->picStatusY[2].standsAbove(frmIntro->picStatusN[2]));
-}
-
-TEST_F(BacktrackRecorder, TellsThatItSavesAndMayBeClosedMeanwhile) {
-    openWithWave(ramp(framesPerSecond));
     clickRecord();
     crank(500ms);
-    const auto closeIt = [] {
-        EXPECT_EQ(frmMixer->lblRecording.Caption(), QStringLiteral("S A V I N G"));
+    const auto closeWhileItSaves = [] {
+        EXPECT_EQ(frmMixer->lblRecording.Caption(), "S A V I N G");
         EXPECT_EQ(frmMixer->lblRecording.ForeColor(), black);
         frmMixer.Unload();
     };
-    QMetaObject::invokeMethod(qApp, closeIt, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, closeWhileItSaves, Qt::QueuedConnection);
     frmMixer->cmdStop.setValue(true);
-    EXPECT_FALSE(frmMixer.isLoaded());
-    EXPECT_FALSE(card().inputOpen());
+    EXPECT_FALSE(frmMixer.isLoaded() || card().inputOpen());
+    giveWave("My Song_1.wav", ramp(10));
+    frmMixer.Show();
+    frmMixer.Unload();
+    EXPECT_TRUE(frmIntro->picStatusY[2].standsAbove(frmIntro->picStatusN[2]));
 }
 
 TEST_F(BacktrackRecorder, BlinksInRedTwiceASecond) {
@@ -210,7 +195,7 @@ TEST_F(BacktrackRecorder, BlinksInRedTwiceASecond) {
         seen += frmMixer->lblRecording.Visible() ? '#' : '.';
     }
     EXPECT_THAT(seen, AnyOf(".#.#.#", "#.#.#."));
-    EXPECT_EQ(frmMixer->lblRecording.Caption(), QStringLiteral("R E C O R D I N G"));
+    EXPECT_EQ(frmMixer->lblRecording.Caption(), "R E C O R D I N G");
     EXPECT_EQ(frmMixer->lblRecording.ForeColor(), red);
 }
 
@@ -218,43 +203,43 @@ TEST_F(BacktrackRecorder, ListensToTheRecordingWithoutSavingItAgain) {
     openWithWave(ramp(framesPerSecond));
     recordToTheEnd();
     gBacktrackFile.clear();
-    giveWave(QStringLiteral("My Song_1.wav"), ramp(2 * framesPerSecond));
+    giveWave("My Song_1.wav", ramp(2 * framesPerSecond));
     heard.clear();
     frmMixer->cmdListen.setValue(true);
     crank(1s);
-    EXPECT_EQ(frmMixer->lblRecording.Caption(), QStringLiteral("P L A Y B A C K"));
+    EXPECT_EQ(frmMixer->lblRecording.Caption(), "P L A Y B A C K");
     EXPECT_TRUE(crankUntil([] { return isReady(); }, 3s));
     EXPECT_TRUE(part(heard, 0, 2 * framesPerSecond) == ramp(2 * framesPerSecond));
     EXPECT_EQ(recorded().size(), 2U * framesPerSecond);
     EXPECT_LT(recordToTheEnd().size(), 2U * framesPerSecond) << "recording takes the backtrack again";
 }
 
-TEST_F(BacktrackRecorder, ListeningNeedsARecording) {
+TEST_F(BacktrackRecorder, TellsWhatDoesNotLoad) {
+    const auto boxOf = [this](CommandButton& button) {
+        desk().willAnswer(vbOK);
+        button.setValue(true);
+        return desk().takeBoxes().at(0);
+    };
     openWithWave(ramp(framesPerSecond));
-    desk().willAnswer(vbOK);
-    frmMixer->cmdListen.setValue(true);
-    expectBox({QStringLiteral("Could not load recorded file - you must record something before listening back!")});
+    EXPECT_EQ(boxOf(frmMixer->cmdListen),
+              Box{"Could not load recorded file - you must record something before listening back!"});
     EXPECT_TRUE(isReady());
     QFile::remove(gBacktrackFile);
-    desk().willAnswer(vbOK);
-    frmMixer->cmdPlay.setValue(true);
-    expectBox({QStringLiteral("Could not load backTrack file!")});
-}
+    EXPECT_EQ(boxOf(frmMixer->cmdPlay), Box{"Could not load backTrack file!"});
+    frmMixer.Unload();
 
-TEST_F(BacktrackRecorder, ABacktrackThatDoesntLoadLeavesOnlyTheWayOut) {
     desk().willAnswer(vbOK);
-    open(giveBacktrack(QStringLiteral("broken.mid"), "MThd and then nothing"));
-    expectBox({QStringLiteral("Could not load selected backtrack file - please select file in Step 2 first!")});
+    open(giveBacktrack("broken.mid", "MThd and then nothing"));
+    expectBox({"Could not load selected backtrack file - please select file in Step 2 first!"});
     frmMixer->cmdPlay.setValue(true);
     crank(1s);
-    EXPECT_TRUE(frmMixer->lblRecording.Visible());
-    EXPECT_EQ(frmMixer->lblRecording.Caption(), QStringLiteral("S T O P P E D"));
-    EXPECT_FALSE(frmMixer->playing || frmMixer->cmdStop.Enabled());
+    EXPECT_EQ(frmMixer->lblRecording.Caption(), "S T O P P E D");
+    EXPECT_TRUE(frmMixer->lblRecording.Visible() && !frmMixer->playing && !frmMixer->cmdStop.Enabled());
 }
 
 TEST_F(BacktrackRecorder, OffersTheTempoByTheNameOfTheBacktrack) {
     for (const auto& [name, ticks] : {std::pair("a.mid", 0), {"a.Rmi", 0}, {"a.mp3", 0}, {"a.WAV", 3}}) {
-        open(giveBacktrack(QString::fromLatin1(name), pianoAndKnock()));
+        open(giveBacktrack(name, pianoAndKnock()));
         EXPECT_EQ(frmMixer->sldTempo.TickStyle(), ticks) << name;
         EXPECT_EQ(frmMixer->fraTempo.Enabled() && frmMixer->lblTempo[11].Enabled(), ticks == 0) << name;
         frmMixer.Unload();
@@ -274,8 +259,7 @@ TEST_F(BacktrackRecorder, AMeterThatWasTurnedOffStaysAsItIsUntilTheNextRecording
     for (const int ticked : {0, 1}) {
         frmMixer->cbEnableVU.setValue(ticked);
         EXPECT_EQ(barAfter(0), loud) << "the same block is read again and again";
-        EXPECT_EQ(GetSetting(gSettingsApp, QStringLiteral("Settings"), QStringLiteral("EnableVU"), {}),
-                  QString::number(ticked));
+        EXPECT_EQ(GetSetting(gSettingsApp, "Settings", "EnableVU", {}), QString::number(ticked));
     }
     frmMixer->checkSource.setValue(1);
     clickRecord();
@@ -284,25 +268,23 @@ TEST_F(BacktrackRecorder, AMeterThatWasTurnedOffStaysAsItIsUntilTheNextRecording
     EXPECT_LT(barAfter(100), loud);
 }
 
-TEST_F(BacktrackRecorder, EndsTheProgramWithoutACard) {
+TEST_F(BacktrackRecorder, EndsTheProgramWithoutACardAndWithoutMusic) {
+    const auto boxAtTheEnd = [this] {
+        SoundSystem::remove();
+        desk().willAnswer(vbOK);
+        EXPECT_THROW(frmMixer.Show(), ProgramEnded);
+        return desk().takeBoxes().at(0);
+    };
     openWithWave(ramp(100));
     frmIntro.Show();
-    SoundSystem::remove();
-    desk().willAnswer(vbOK);
-    EXPECT_THROW(frmMixer.Show(), ProgramEnded);
-    const Box box = desk().takeBoxes().at(0);
-    EXPECT_THAT(box.text.toStdString(), StartsWith("Unable to initialize DirectSound playback:\r\n\r\nErr #68: "));
-    EXPECT_EQ(box, (Box{box.text, vbCritical, QStringLiteral("Sorry")}));
-}
-
-TEST_F(BacktrackRecorder, EndsTheProgramWithoutMusic) {
-    frmIntro.Show();
-    SoundSystem::remove();
-    desk().willAnswer(vbOK);
-    EXPECT_THROW(frmMixer.Show(), ProgramEnded);
-    expectBox({QStringLiteral("Could not initialize DirectMusic. Please make sure that DirectX 8.1 is installed.\r\n"
-                              "This program will end."),
-               vbInformation, QStringLiteral("Exiting...")});
+    const Box noCard = boxAtTheEnd();
+    EXPECT_THAT(noCard.text.toStdString(), StartsWith("Unable to initialize DirectSound playback:\r\n\r\nErr #68: "));
+    EXPECT_EQ(noCard, (Box{noCard.text, vbCritical, "Sorry"}));
+    frmMixer.Unload();
+    EXPECT_EQ(boxAtTheEnd(),
+              (Box{"Could not initialize DirectMusic. Please make sure that DirectX 8.1 is installed.\r\nThis program "
+                   "will end.",
+                   vbInformation, "Exiting..."}));
     EXPECT_FALSE(frmMixer.isLoaded());
 }
 
