@@ -158,6 +158,15 @@ QByteArray contentOf(const QString& file) {
     return QFileInfo::exists(file) ? readFile(file) : QByteArray();
 }
 
+bool replaced(const QString& file, const QByteArray& content, ReplacingFile::Flush flush) {
+    try {
+        replaceFile(file, content, flush);
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 QString GetPrivateProfileString(const QString& section, const QString& key, const QString& defaultValue, int maxChars,
@@ -178,11 +187,8 @@ bool WritePrivateProfileString(const QString& section, const QString& key, const
         const QByteArray old = contentOf(file);
         const QByteArray updated = Profile(old).with(section, key, onOneLine(value));
         if (updated == old) return true;
-        if (isHeld(file)) {
-            held->content = updated;
-        } else {
-            replaceFile(file, updated, flush);
-        }
+        if (!isHeld(file)) return replaced(file, updated, flush);
+        held->content = updated;
         return true;
     } catch (const RuntimeError&) {
         return false;
@@ -196,12 +202,7 @@ ProfileTransaction::ProfileTransaction(const QString& file) {
 
 ProfileTransaction::~ProfileTransaction() {
     const HeldFile writes = *std::exchange(held, std::nullopt);
-    if (!writes.content) return;
-    try {
-        replaceFile(writes.file, *writes.content);
-    } catch (const RuntimeError&) {
-        // As unnoticed as a single write that fails.
-    }
+    if (writes.content) replaced(writes.file, *writes.content, ReplacingFile::Flush::toDisk);
 }
 
 }  // namespace lyrebrook
