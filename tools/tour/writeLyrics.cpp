@@ -58,8 +58,14 @@ void correctInEditor(Tour& tour) {
     frmLyrics->cmdUpdate.setValue(true);
     tour.require(frmLyrics->lstLyrics.List(0) == QStringLiteral("Walking down the river road"),
                  QStringLiteral("the line is corrected"));
-    printLyrics(tour);
-    frmLyrics->cmdClose.setValue(true);
+}
+
+void sayLyricFile(Tour& tour) {
+    QFile file(gLyricFile);
+    tour.require(file.open(QIODevice::ReadOnly), QStringLiteral("the song has a lyric file"));
+    tour.say(QStringLiteral("step 4: wrote four lines with chords, corrected one"));
+    for (const QByteArray& line : file.readAll().trimmed().split('\n'))
+        tour.say(QStringLiteral("  ") + QString::fromUtf8(line.trimmed()));
 }
 
 }  // namespace
@@ -69,11 +75,9 @@ void writeLyrics(Tour& tour) {
     for (const WrittenLine& line : lines) write(line);
     playOver(tour);
     correctInEditor(tour);
-    QFile file(gLyricFile);
-    tour.require(file.open(QIODevice::ReadOnly), QStringLiteral("the song has a lyric file"));
-    tour.say(QStringLiteral("step 4: wrote four lines with chords, corrected one"));
-    for (const QByteArray& line : file.readAll().trimmed().split('\n'))
-        tour.say(QStringLiteral("  ") + QString::fromUtf8(line.trimmed()));
+    sayLyricFile(tour);
+    printLyrics(tour);
+    frmLyrics->cmdClose.setValue(true);
     findRhymes(tour);
     frmComposer->btnEnd.setValue(true);
 }
