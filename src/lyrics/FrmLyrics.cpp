@@ -198,8 +198,7 @@ void FrmLyrics::cmdPrint_Click() {
     CommonDialog1.setCancelError(true);
     try {
         CommonDialog1.ShowPrinter();
-        for (std::int16_t copy = 1; copy <= CommonDialog1.Copies(); ++copy)
-            PrintText(txtLyrics, margins, PrintedPart::whole);
+        for (int copy = 1; copy <= CommonDialog1.Copies(); ++copy) PrintText(txtLyrics, margins, PrintedPart::whole);
     } catch (const std::exception&) {
         return;  // who cancels the dialog knows it
     }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QStringView>
-#include <optional>
 
 #include "platform/printing/Printer.h"
 
@@ -19,16 +18,6 @@ class LineBreaker {
     QStringView takeLine(QStringView& paragraph) const;
 
   private:
-    /// Where a line ends, and where the next one begins.
-    struct Break {
-        qsizetype end = 0;
-        qsizetype rest = 0;
-    };
-
-    std::optional<Break> breakAtBlank(QStringView paragraph) const;
-    Break breakInsideWord(QStringView paragraph) const;
-    bool isTooWide(QStringView text) const;
-
     const Printer& printer_;
     Twips width_;
 };

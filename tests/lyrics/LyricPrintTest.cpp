@@ -9,7 +9,6 @@
 #include "lyrics/FrmLyrics.h"
 #include "lyrics/PrintText.h"
 #include "lyrics/lyricSheet.h"
-#include "platform/base/ReplacingFile.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/printing/PaperPrinter.h"
 #include "shell/modConfig.h"
@@ -21,8 +20,9 @@ namespace {
 using testing::ElementsAre;
 
 constexpr PageMargins margins{.left = 1000, .right = 1000, .top = 1500, .bottom = 1100};
+const Box notPrinted{"Print function not supported on your operating system!"};
 
-/// Keeps what it was given. Every character is 100 wide and 200 high; ten of them and three lines go on a sheet.
+/// Keeps what it was given. Ten characters and three lines go on a sheet, unless the letters are changed.
 class Typewriter final : public Printer {
   public:
     struct Line {
@@ -38,7 +38,10 @@ class Typewriter final : public Printer {
     Twips CurrentY() const override { return y_; }
     void setCurrentX(Twips x) override { x_ = x; }
     void setCurrentY(Twips y) override { y_ = y; }
-    Twips TextWidth(const QString& text) const override { return 100 * static_cast<double>(text.toUcs4().size()); }
+    Twips TextWidth(const QString& text) const override {
+        ++measures;
+        return letter * static_cast<double>(text.toUcs4().size());
+    }
     Twips TextHeight(const QString&) const override { return 200; }
     void setFont(const Font&) override {}
     void Print(const QString& text) override {
@@ -58,28 +61,23 @@ class Typewriter final : public Printer {
         return texts;
     }
 
+    Twips letter = 100;
+    std::size_t ribbon = 1000;
     std::vector<Line> lines;
     int documents = 0;
-    std::size_t ribbon = 1000;
+    mutable std::size_t measures = 0;
 
   private:
     int page_ = 1;
-    Twips x_ = 0;
-    Twips y_ = 0;
+    Twips x_ = 0, y_ = 0;
 };
 
 TEST(PrintLayout, BreaksLinesAtBlanksThatStayAtTheEndOfTheirLine) {
-    struct Case {
-        const char* about;
-        QString text;
-        QStringList lines;
-    };
-    const Case cases[] = {
-        {"exactly the width", "12345 7890", {"12345 7890"}},
+    const std::tuple<const char*, QString, QStringList> cases[] = {
+        {"exactly the width, a blank beyond it", "1234567890 ", {"1234567890 "}},
         {"one more", "12345 78901", {"12345 ", "78901"}},
         {"the last blank that fits", "one two three", {"one two ", "three"}},
         {"blanks in a row", "12345 78      90123", {"12345 78   ", "90123"}},
-        {"a blank at the end", "1234567890 ", {"1234567890 "}},
         {"a blank at the start", " 1234567890", {" ", "1234567890"}},
         {"a long word, its breaking character twice", "abcdefghijklmnopq", {"abcdefghijk", "klmnopq"}},
         {"a word with one letter too many", "abcdefghijk", {"a", "bcdefghijk"}},
@@ -87,15 +85,26 @@ TEST(PrintLayout, BreaksLinesAtBlanksThatStayAtTheEndOfTheirLine) {
         {"a tab without a space behind", "abcdef\tghijklm", {"abcdef\tghij", "jklm"}},
         {"a tab before a long word", "\tabcdefghij k", {"\t", "abcdefghij ", "k"}},
         {"signs of two units", QString("🎵").repeated(12), {QString("🎵").repeated(11), QString("🎵").repeated(2)}},
-        {"no text between", "a\r\n\r\nb", {"a", "", "b"}},
-        {"an end of line at the end", "a\r\n", {"a", ""}},
+        {"no text between, and an end of line at the end", "a\r\n\r\nb\r\n", {"a", "", "b", ""}},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.about);
+    for (const auto& [about, text, lines] : cases) {
         Typewriter typewriter;
-        EXPECT_TRUE(printLayout(typewriter, {.text = each.text, .font = {}}, margins));
-        EXPECT_EQ(typewriter.texts(), each.lines);
+        EXPECT_TRUE(printLayout(typewriter, {text, {}}, margins));
+        EXPECT_EQ(typewriter.texts(), lines) << about;
         EXPECT_EQ(typewriter.documents, 1);
+    }
+}
+
+TEST(PrintLayout, MeasuresLittleOfALongParagraph) {
+    const std::pair<QString, qsizetype> cases[] = {{"x", 1001}, {"four ", 1000}};
+    for (const auto& [word, length] : cases) {
+        Typewriter typewriter;
+        typewriter.letter = 1;
+        printLayout(typewriter, {word.repeated(100'000 / word.size()), {}}, margins);
+        typewriter.lines.pop_back();
+        for (const QString& line : typewriter.texts()) ASSERT_EQ(line.size(), length) << word.toStdString();
+        constexpr std::size_t mostMeasures = 25;
+        EXPECT_LE(typewriter.measures, typewriter.lines.size() * mostMeasures) << word.toStdString();
     }
 }
 
@@ -116,11 +125,11 @@ TEST(PrintLayout, FollowsTheAlignmentOntoAsManyPagesAsItTakes) {
 TEST(PrintLayout, PrintsNothingWithoutTextOrRoom) {
     Typewriter typewriter;
     EXPECT_FALSE(printLayout(typewriter, {}, margins));
-    EXPECT_FALSE(printLayout(typewriter, {.text = "a", .font = {}}, {.left = 1500, .right = 1500}));
-    EXPECT_FALSE(printLayout(typewriter, {.text = "a", .font = {}}, {.top = 1600, .bottom = 1600}));
+    EXPECT_FALSE(printLayout(typewriter, {"a", {}}, {.left = 1500, .right = 1500}));
+    EXPECT_FALSE(printLayout(typewriter, {"a", {}}, {.top = 1600, .bottom = 1600}));
     EXPECT_EQ(typewriter.documents, 0);
     // Room, but not for a line: each one gets a page of its own.
-    EXPECT_TRUE(printLayout(typewriter, {.text = "a\r\nb", .font = {}}, {.top = 3000, .bottom = 150}));
+    EXPECT_TRUE(printLayout(typewriter, {"a\r\nb", {}}, {.top = 3000, .bottom = 150}));
     EXPECT_THAT(typewriter.lines, ElementsAre(Typewriter::Line{"a", 2, 0, 3000}, Typewriter::Line{"b", 3, 0, 3000}));
 }
 
@@ -132,9 +141,9 @@ TEST(LyricSheet, HasTheTitleInCapitalsAndAGapAfterEachLyric) {
 
 /// A word of a PDF as a reader finds it, in twips from the upper left corner of its page.
 struct Word {
-    QString text;
-    int page;
-    Twips left, top, right, bottom;
+    QString text = {};
+    int page = 0;
+    Twips left = 0, top = 0, right = 0, bottom = 0;
 };
 
 struct Pdf {
@@ -179,38 +188,37 @@ TEST_F(OnPaper, TheMarginsHoldOnA4AndLetter) {
     const QString verse = QStringLiteral("Walking down the road with wind and rain about me ").repeated(40);
     for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
         const auto printer = printerTo(path("out.pdf"), paper);
-        const Font font{.Name = "DejaVu Sans", .Size = 24};
-        ASSERT_TRUE(printLayout(*printer, {verse, font}, margins));
+        ASSERT_TRUE(printLayout(*printer, {verse, {.Name = "DejaVu Sans", .Size = 24}}, margins));
         const Pdf pdf = read(path("out.pdf"));
         const QString sheet = QString("%1 x %2").arg(printer->ScaleWidth()).arg(printer->ScaleHeight());
         EXPECT_THAT(pdf.pageSizes, ElementsAre(sheet, sheet, sheet));
         EXPECT_EQ(pdf.words.size(), 400U);
         constexpr Twips tolerance = 2;
-        const Twips line = printer->TextHeight({});
-        const Twips blank = printer->TextWidth(" ");
-        const Word* before = nullptr;
-        Twips top = margins.top;
+        Word before;
+        Twips top = 0;
         for (const Word& word : pdf.words) {
-            const bool newPage = !before || before->page != word.page;
-            const bool newLine = newPage || word.left < before->left;
-            if (newPage)
-                top = margins.top;
-            else if (newLine)
-                top += line;
+            const bool newPage = before.page != word.page;
+            const bool newLine = newPage || word.left < before.left;
+            if (newLine) top = newPage ? margins.top : top + printer->TextHeight({});
             EXPECT_NEAR(word.top, top, tolerance) << word.text.toStdString();
-            EXPECT_NEAR(word.left, newLine ? margins.left : before->right + blank, tolerance);
+            EXPECT_NEAR(word.left, newLine ? margins.left : before.right + printer->TextWidth(" "), tolerance);
             EXPECT_NEAR(word.right, word.left + printer->TextWidth(word.text), tolerance);
             EXPECT_LE(word.right, printer->ScaleWidth() - margins.right + tolerance);
             EXPECT_LE(word.bottom, printer->ScaleHeight() - margins.bottom + tolerance);
-            before = &word;
+            before = word;
         }
     }
 }
 
-TEST_F(OnPaper, AFontThatIsMissingStandsForAnother) {
-    box_.setText("Hello");
-    EXPECT_TRUE(printLayout(*printerTo(path("out.pdf")), {"Hello", {.Name = "No Such Font"}}, margins));
-    EXPECT_EQ(read(path("out.pdf")).words.size(), 1U);
+TEST_F(OnPaper, ADocumentThatFailsLeavesNothingOfItselfToTheNext) {
+    const auto printer = printerTo(path("missing/out.pdf"));
+    const PrintedText text{"found", {.Name = "No Such Font"}};
+    EXPECT_THROW(printLayout(*printer, text, margins), RuntimeError);
+    ASSERT_TRUE(QDir().mkpath(path("missing")));
+    EXPECT_TRUE(printLayout(*printer, text, margins));
+    const Pdf pdf = read(path("missing/out.pdf"));
+    ASSERT_EQ(pdf.words.size(), 1U);
+    EXPECT_NEAR(pdf.words[0].top, margins.top, 2);
 }
 
 TEST_F(OnPaper, TheBoxGivesItsTextOrSelectionInItsOwnFontAndAlignment) {
@@ -233,49 +241,24 @@ TEST_F(OnPaper, APrinterThatFailsInTheMiddleIsTold) {
     desk().setPrinter(std::move(typewriter));
     desk().willAnswer(vbOK);
     EXPECT_FALSE(PrintText(box_, margins, PrintedPart::whole));
-    EXPECT_THAT(desk().takeBoxes(), ElementsAre(Box{"Print function not supported on your operating system!"}));
+    EXPECT_THAT(desk().takeBoxes(), ElementsAre(notPrinted));
 }
 
-/// Counts the files that come into place.
-class CountingDisk final : public DiskCalls {
-  public:
-    CountingDisk() { ReplacingFile::setDiskCalls(this); }
-    ~CountingDisk() override { ReplacingFile::setDiskCalls(nullptr); }
-    CountingDisk(const CountingDisk&) = delete;
-    CountingDisk& operator=(const CountingDisk&) = delete;
-    int rename(const char* from, const char* to) override {
-        ++files;
-        return DiskCalls::rename(from, to);
-    }
-    int files = 0;
-};
-
-TEST_F(OnPaper, TheEditorPrintsADocumentForEachCopy) {
+TEST_F(OnPaper, TheEditorPrintsADocumentForEachCopyUnlessTheDialogIsCancelled) {
     gSongName = "river";
     gLyrics = {{"000000001", "Am", "Walking down", {}}, {"000000002", "G", "*", {}}, {}};
-    desk().willPrintTo(path("out.pdf"), 3);
-    const CountingDisk disk;
+    desk().willPrintTo({});
     frmLyrics->cmdPrint.setValue(true);
-    EXPECT_EQ(disk.files, 3);
+    EXPECT_EQ(frmLyrics->txtLyrics.Text(), "RIVER\r\n\r\nWalking down\r\n\r\n\r\n\r\n") << "cancelled";
+    desk().willPrintTo(path("missing/out.pdf"), 3);
+    for (int copy = 0; copy < 3; ++copy) desk().willAnswer(vbOK);
+    frmLyrics->cmdPrint.setValue(true);
+    EXPECT_THAT(desk().takeBoxes(), ElementsAre(notPrinted, notPrinted, notPrinted));
+    desk().willPrintTo(path("out.pdf"));
+    frmLyrics->cmdPrint.setValue(true);
     QStringList words;
     for (const Word& word : read(path("out.pdf")).words) words << word.text;
     EXPECT_EQ(words, (QStringList{"RIVER", "Walking", "down"}));
-}
-
-TEST_F(OnPaper, ACancelledDialogPrintsNothingAndKeepsTheText) {
-    gSongName = "river";
-    desk().willPrintTo({});
-    frmLyrics->cmdPrint.setValue(true);
-    EXPECT_EQ(frmLyrics->txtLyrics.Text(), "RIVER\r\n\r\n\r\n\r\n");
-}
-
-TEST_F(OnPaper, ADocumentThatFailsLeavesNothingOfItselfToTheNext) {
-    const auto printer = printerTo(path("missing/out.pdf"));
-    EXPECT_THROW(printLayout(*printer, {.text = "lost", .font = {}}, margins), RuntimeError);
-    EXPECT_EQ(printer->CurrentY(), 0);
-    ASSERT_TRUE(QDir().mkpath(path("missing")));
-    EXPECT_TRUE(printLayout(*printer, {.text = "found", .font = {}}, margins));
-    EXPECT_EQ(read(path("missing/out.pdf")).words.size(), 1U);
 }
 
 }  // namespace
