@@ -10,7 +10,7 @@ namespace lyrebrook {
 namespace {
 
 constexpr std::int32_t longestSilence = 2 * bytesPerSecond;
-constexpr std::chrono::seconds backShown{5};
+constexpr std::chrono::seconds shown{5};
 
 QString lossOf(CardNotice card) {
     switch (card) {
@@ -46,6 +46,7 @@ bool isSilent(const DirectSoundCaptureBuffer8& capture, std::int32_t from, std::
 
 void SoundNotice::look(CardNotice card, const DirectSoundCaptureBuffer8* recording, Moment now) {
     seeCard(card, now);
+    seeLosses(recording, now);
     listen(recording);
 }
 
@@ -54,6 +55,17 @@ void SoundNotice::seeCard(CardNotice card, Moment now) {
     if (before == card || card != CardNotice::none) return;
     back_ = returnOf(before);
     backSince_ = now;
+}
+
+bool SoundNotice::tellsOfCard(Moment now) const {
+    return card_ != CardNotice::none || (!back_.isEmpty() && now - backSince_ < shown);
+}
+
+/// A card that was away explains what is missing.
+void SoundNotice::seeLosses(const DirectSoundCaptureBuffer8* recording, Moment now) {
+    const Frames missed = recording == nullptr ? 0 : recording->missed();
+    if (missed > missed_ && !tellsOfCard(now)) missedSince_ = now;
+    missed_ = missed;
 }
 
 void SoundNotice::listen(const DirectSoundCaptureBuffer8* recording) {
@@ -68,7 +80,10 @@ void SoundNotice::listen(const DirectSoundCaptureBuffer8* recording) {
 
 QString SoundNotice::text(Moment now) const {
     if (card_ != CardNotice::none) return lossOf(card_);
-    if (!back_.isEmpty() && now - backSince_ < backShown) return back_;
+    if (tellsOfCard(now)) return back_;
+    if (missedSince_ && now - *missedSince_ < shown) {
+        return QStringLiteral("A piece of sound was lost. The computer was too busy.");
+    }
     if (silentBytes_ < longestSilence) return {};
     return QStringLiteral("No sound is arriving from the recording source.");
 }

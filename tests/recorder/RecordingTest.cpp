@@ -138,6 +138,11 @@ TEST_F(Recording, TellsInALineWhatIsWrongWithTheSoundAndGoesOn) {
     EXPECT_EQ(notice(), QStringLiteral("The sound card is back."));
     crank(5s);
     EXPECT_EQ(notice(), silence) << "still";
+    card().loseInput(second / 10);
+    crank(200ms);
+    EXPECT_EQ(notice(), QStringLiteral("A piece of sound was lost. The computer was too busy."));
+    crank(5s);
+    EXPECT_EQ(notice(), silence);
     EXPECT_TRUE(recording());
     clickStop();
     crank(100ms);

@@ -15,6 +15,7 @@ void CaptureTape::apply(const EngineCommand& command, Frames at) noexcept {
         looping_ = command.looping;
         origin_ = at;
         laid_ = 0;
+        missed_.store(0, std::memory_order_relaxed);
         if (command.beside != nullptr) besideAtStart_.store({ticket_, true, command.beside->cursor()});
     }
     publish();
@@ -30,6 +31,7 @@ void CaptureTape::capture(Frames soundingAt, std::span<const StereoFrame> frames
         const Frames room = std::clamp<Frames>(length() - place, 0, static_cast<Frames>(frames.size()));
         frames = frames.first(static_cast<std::size_t>(room));
     }
+    missed_.store(missed() + std::max<Frames>(0, place - laid_), std::memory_order_relaxed);
     fillUpTo(place);
     lay(place, frames);
     running_ = looping_ || laid_ < length();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <span>
 
@@ -26,6 +27,10 @@ class CaptureTape final : public EngineUnit {
 
     /// Of the last start that had a unit beside it: where that unit stood.
     UnitState stoodBeside() const noexcept { return besideAtStart_.load(); }
+
+    /// Frames since the last start for which nothing came before later ones did.
+    Frames missed() const noexcept { return missed_.load(std::memory_order_relaxed); }
+
     Frames length() const noexcept { return static_cast<Frames>(frames_.size()); }
 
     /// Copies bytes from `start` on, as many as `bytes` holds; the range lies inside the tape.
@@ -45,6 +50,7 @@ class CaptureTape final : public EngineUnit {
     bool looping_ = false;
     Frames origin_ = 0;
     Frames laid_ = 0;
+    std::atomic<Frames> missed_{0};
     std::uint32_t ticket_ = 0;
     PublishedState published_;
     PublishedState besideAtStart_;

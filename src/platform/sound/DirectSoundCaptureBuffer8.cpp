@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "platform/sound/CaptureTape.h"
 #include "platform/sound/DirectSoundSecondaryBuffer8.h"
 #include "platform/sound/bufferChecks.h"
 

@@ -7,11 +7,11 @@
 #include <span>
 
 #include "platform/sound/BufferDescriptions.h"
+#include "platform/sound/CaptureTape.h"
 #include "platform/sound/SoundEngine.h"
 
 namespace lyrebrook {
 
-class CaptureTape;
 class DirectSoundSecondaryBuffer8;
 
 /// Sound from the card's input, laid down from the frame that sounded when `Start` took effect. The program's thread
@@ -38,6 +38,9 @@ class DirectSoundCaptureBuffer8 {
 
     /// Both cursors tell the byte up to which sound may be read; a full buffer that ran once tells its size.
     void GetCurrentPosition(DSCURSORS& cursors) const;
+
+    /// Frames that the input lost since the last start. They are silence.
+    Frames missed() const { return tape_->missed(); }
 
     /// RuntimeError for a range outside the buffer, or for too small a `buffer`.
     void ReadBuffer(std::int32_t start, std::int32_t size, std::span<std::byte> buffer, std::int32_t flags) const;
