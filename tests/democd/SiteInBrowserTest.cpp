@@ -9,6 +9,7 @@
 
 #include "democd/MediaFolder.h"
 #include "democd/SiteGenerator.h"
+#include "platform/files/App.h"
 #include "support/Browser.h"
 
 namespace lyrebrook {
@@ -18,6 +19,7 @@ constexpr QSize desk{1280, 800};
 constexpr QSize phone{390, 844};
 
 const QString shippedData = QStringLiteral(SHIPPED_DATA);
+const QString shippedTemplates = QStringLiteral(DATA_FOLDER "/templates/cdRedPlayer/");
 const QString exampleSite = shippedData + QStringLiteral("/DemoCD_Example/");
 const QString exampleMedia = exampleSite + QStringLiteral("Demo1/");
 
@@ -74,11 +76,6 @@ class SiteInBrowser : public testing::Test {
     inline static std::unique_ptr<Browser> browser_;
 };
 
-TEST_F(SiteInBrowser, TheExampleIsWholeOnADeskAndOnAPhone) {
-    expectWhole(exampleSite, desk);
-    expectWhole(exampleSite, phone);
-}
-
 /// Seconds of the sound that the browser's own player shows.
 const QString lengthInThePlayer = QStringLiteral(
     "const player = document.querySelector('video, audio');"
@@ -113,9 +110,8 @@ class OwnSite {
     explicit OwnSite(const Workset& workset) {
         const QDir common(shippedData + QStringLiteral("/DemoCD"));
         for (const QString& name : common.entryList(QDir::Files)) QFile::copy(common.filePath(name), folder() + name);
-        const QString templates = QStringLiteral(DATA_FOLDER "/templates/cdRedPlayer/");
         const auto fail = [](const QString& message) { ADD_FAILURE() << message.toStdString(); };
-        SiteGenerator(templates, folder(), fail).createSite(workset, htmlOf(workset));
+        SiteGenerator(shippedTemplates, folder(), fail).createSite(workset, htmlOf(workset));
         rebuildMediaFolder(folder(), workset, [] {});
     }
 
@@ -124,6 +120,15 @@ class OwnSite {
   private:
     QTemporaryDir place_;
 };
+
+TEST_F(SiteInBrowser, TheExampleIsWholeAndAPersonsCopyOfItToo) {
+    expectWhole(exampleSite, desk);
+    App::setPath(shippedData);
+    const OwnSite copy(readWorkset(QStringLiteral(DATA_FOLDER "/projects/Demo Workset.xon")));
+    expectWhole(copy.folder(), phone);
+    for (const char* page : {"music.htm", "photos.htm"})
+        EXPECT_EQ(words(copy.folder(), page), words(exampleSite, page));
+}
 
 TEST_F(SiteInBrowser, LongNamesAndForeignLettersKeepThePagesInShape) {
     const QString longWord(80, u'W');
