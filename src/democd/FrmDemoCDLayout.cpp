@@ -29,8 +29,11 @@ ControlArray<TextBox>::Maker hiddenBoxes(const ControlArray<Frame>& frames) {
 struct Place {
     int row = 0;
     int column = 0;
-    int columns = 1;  ///< that the box takes
+    int columns = 1;    ///< that the box takes
+    bool tall = false;  ///< the box has several lines, and its name stands at the first
 };
+
+constexpr int firstLine = 8;  ///< pixels from a box's edge to its text
 
 /// A box with its name at its left, in a grid of such pairs.
 void addField(QGridLayout& grid, Place place, const QString& name, Control& box) {
@@ -38,7 +41,8 @@ void addField(QGridLayout& grid, Place place, const QString& name, Control& box)
     label->setBuddy(box);
     box.setAccessibleName(name);
     box.widget()->setMinimumWidth(60);  // a list of long titles must not widen the page
-    grid.addWidget(label, place.row, place.column);
+    if (place.tall) label->setContentsMargins(0, firstLine, 0, 0);
+    grid.addWidget(label, place.row, place.column, place.tall ? Qt::AlignTop : Qt::Alignment());
     grid.addWidget(box, place.row, place.column + 1, 1, place.columns);
 }
 
@@ -156,13 +160,14 @@ void FrmDemoCD::layOutProject() {
     grid->addWidget(txtCV, 4, 0, 1, 4);
     addField(*grid, {.row = 5}, QStringLiteral("Email"), txtEmail);
     addField(*grid, {.row = 5, .column = 2}, QStringLiteral("Telephone"), txtPhone);
-    addField(*grid, {.row = 6, .columns = 3}, QStringLiteral("Postal Address"), txtPostal);
+    addField(*grid, {.row = 6, .columns = 3, .tall = true}, QStringLiteral("Postal Address"), txtPostal);
     grid->setRowStretch(4, 3);
     grid->setRowStretch(6, 2);
 }
 
 void FrmDemoCD::layOutPages() {
     auto* songs = new QVBoxLayout(Frame1[2]);
+    songs->setSpacing(14);
     Label13.setWordWrap(true);
     songs->addWidget(Label13);
     auto* photos = new QVBoxLayout(Frame1[3]);
@@ -196,7 +201,7 @@ void FrmDemoCD::layOutPhoto(int index) {
     txtPhotoPath[index].setElided();
     grid->addWidget(cmdOpenPhoto[index], 0, 2);
     grid->addWidget(cmdDeletePhoto[index], 0, 3);
-    addField(*grid, {.row = 1, .columns = 3}, QStringLiteral("Description:"), txtPhotoDesc[index]);
+    addField(*grid, {.row = 1, .columns = 3, .tall = true}, QStringLiteral("Description:"), txtPhotoDesc[index]);
 }
 
 void FrmDemoCD::layOutEnd() {
