@@ -11,15 +11,6 @@ namespace lyrebrook {
 namespace {
 
 using testing::ElementsAre;
-using testing::SizeIs;
-
-const QString head = QStringLiteral("F i n d i n g   R h y m e   W o r d s...");
-
-QByteArray numbered(int count, const char* ending) {
-    QByteArray lines;
-    for (int i = 1; i <= count; ++i) lines += QByteArray::number(i) + ending + '\n';
-    return lines;
-}
 
 class Dictionary : public Studio {
   protected:
@@ -28,112 +19,87 @@ class Dictionary : public Studio {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(lines);
     }
-
-    /// The list after a search, without its head.
-    QStringList found(const QString& term) {
+    static void search(const QString& term) {
         frmDictionary->txtWord.setText(term);
         frmDictionary->cmdSearch.setValue(true);
-        QStringList lines = shown();
-        EXPECT_EQ(lines.mid(0, 2), (QStringList{head, QString()}));
-        return lines.mid(2);
     }
-
-    static QStringList shown() {
+    static QString shown() {
         QStringList lines;
         for (int i = 0; i < frmDictionary->lstWords.ListCount(); ++i) lines << frmDictionary->lstWords.List(i);
-        return lines;
+        return lines.join(u'|');
     }
-
+    /// The list after a search, without its head.
+    static QString found(const QString& term) {
+        search(term);
+        QString lines = shown();
+        const QString head = "F i n d i n g   R h y m e   W o r d s...|";
+        EXPECT_TRUE(lines.startsWith(head));
+        return lines.mid(head.size() + 1);
+    }
     /// Happens at the first line of the next search that lets events run.
     static void duringSearch(const std::function<void()>& action) { QTimer::singleShot(0, action); }
 };
 
-TEST_F(Dictionary, ListsTheLinesThatEndInTheTermInTheFilesOwnOrderAndCase) {
-    struct Case {
-        const char* about;
-        QByteArray lines;
-        QString term;
-        QStringList rhymes;
+TEST_F(Dictionary, ListsTheLinesThatEndInTheTermInGroupsOfFive) {
+    const QByteArray endless = QByteArray(1'000'000, 'x') + "ing";
+    const std::tuple<const char*, QByteArray, QString, QString> cases[] = {
+        {"any case, the file's own order", "SINGING\nBring\nsong\ning\n", "iNg", "SINGING|Bring|ing"},
+        {"ends of lines", "ring\r\n\r\n  \nking\rwing", "ing", "ring|king|wing"},
+        {"neither line nor term is trimmed", "ring \nring\nmy ring\nspring\n", " ring", "my ring"},
+        {"a blank behind the term", "ring\nring \n", "ring ", "ring "},
+        {"a term longer than the line", "ing\n", "sing", ""},
+        {"characters, not bytes", "caf\xC3\xA9\nCAF\xC3\x89\nfe\n\xD0\xBC\xD0\xB8\xD1\x80\n", "É", "café|CAFÉ"},
+        {"any script", "\xD0\xBC\xD0\xB8\xD1\x80\n\xD0\xB0\n", "ИР", "мир"},
+        {"Windows-1252", "caf\xE9\n", "fé", "café"},
+        {"megabytes without an end", endless + "\nno\n" + endless, "ing", endless + "|" + endless},
+        {"no word", "", "ing", ""},
+        {"no gap without a line behind it", "1s\n2s\n3s\n4s\n5s\n", "s", "1s|2s|3s|4s|5s"},
+        {"a gap with the next line", "1s\n2s\n3s\n4s\n5s\n \nother\nmore\n", "s", "1s|2s|3s|4s|5s|"},
+        {"groups", "1s\n2s\n3s\n4s\n5s\n6s\n", "s", "1s|2s|3s|4s|5s||6s"},
     };
-    const Case cases[] = {
-        {"any case", "SINGING\nBring\nsong\ning\n", "iNg", {"SINGING", "Bring", "ing"}},
-        {"ends of lines", "ring\r\n\r\n  \nking\rwing", "ing", {"ring", "king", "wing"}},
-        {"the line is not trimmed", "ring \nmy ring\n", "ring", {"my ring"}},
-        {"nor is the term", "ring\nmy ring\nspring\n", " ring", {"my ring"}},
-        {"a blank behind the term", "ring\nring \n", "ring ", {"ring "}},
-        {"a term longer than the line", "ing\n", "sing", {}},
-        {"characters, not bytes", "caf\xC3\xA9\nCAF\xC3\x89\nfe\n\xD0\xBC\xD0\xB8\xD1\x80\n", "É", {"café", "CAFÉ"}},
-        {"any script", "\xD0\xBC\xD0\xB8\xD1\x80\n\xD0\xB0\n", "ИР", {"мир"}},
-        {"Windows-1252", "caf\xE9\n", "fé", {"café"}},
-        {"no word", "", "ing", {}},
-    };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.about);
-        giveWords(each.lines);
-        EXPECT_EQ(found(each.term), each.rhymes);
+    for (const auto& [about, lines, term, rhymes] : cases) {
+        giveWords(lines);
+        EXPECT_TRUE(found(term) == rhymes) << about << ": " << shown().left(200).toStdString();
     }
 }
 
-TEST_F(Dictionary, AGapFollowsEveryFiveHitsAsSoonAsAnotherLineIsRead) {
-    giveWords(numbered(5, "ing"));
-    EXPECT_THAT(found("ing"), SizeIs(5));
-    giveWords(numbered(5, "ing") + "\n \nother\nmore\n");
-    EXPECT_EQ(found("ing").mid(4), (QStringList{"5ing", ""}));
-    giveWords(numbered(6, "ing"));
-    EXPECT_EQ(found("ing").mid(4), (QStringList{"5ing", "", "6ing"}));
-}
-
 TEST_F(Dictionary, EndsAtTheTwoHundredthHit) {
-    giveWords(numbered(300, "ing"));
-    QStringList rhymes = found("ing");
-    EXPECT_EQ(rhymes.removeAll(QString()), 39);
-    EXPECT_THAT(rhymes, SizeIs(200));
-    EXPECT_EQ(rhymes.last(), "200ing");
+    giveWords(QByteArray("ring\n").repeated(199) + "last ring\nring\n");
+    const QStringList rhymes = found("ing").split(u'|');
+    EXPECT_EQ(rhymes.count(QString()), 39);
+    EXPECT_EQ(rhymes.size(), 200 + 39);
+    EXPECT_EQ(rhymes.last(), "last ring");
 }
 
 TEST_F(Dictionary, AsksForATermThatIsMoreThanBlanks) {
     giveWords("ring\n");
-    found("ing");
+    search("ing");
     desk().willAnswer(vbOK);
-    frmDictionary->txtWord.setText("  ");
-    frmDictionary->cmdSearch.setValue(true);
+    search("  ");
     EXPECT_THAT(desk().takeBoxes(), ElementsAre(Box{"Please enter a search term befor you click 'Search'."}));
-    EXPECT_THAT(shown(), SizeIs(0));
+    EXPECT_EQ(shown(), "");
 }
 
-TEST_F(Dictionary, StopIsNoticedAtTheNextLineThatIsNotBlank) {
-    giveWords("ring\n\n\nking\nwing\n");
+TEST_F(Dictionary, EventsRunDuringASearch) {
+    giveWords("ring\n\n\nking\nkong\nwing\n");
     duringSearch([] { frmDictionary->cmdStop.setValue(true); });
-    EXPECT_EQ(found("ing"), (QStringList{"ring", "king"}));
-}
-
-TEST_F(Dictionary, ASearchInsideASearchAddsToTheSameListAndLetsTheFirstGoOn) {
-    giveWords("ring\nkong\nking\n");
-    duringSearch([] {
-        frmDictionary->txtWord.setText("ong");
-        frmDictionary->cmdSearch.setValue(true);
-    });
-    EXPECT_EQ(found("ing"), (QStringList{"kong", "king"}));
-}
-
-TEST_F(Dictionary, ASearchOutlivesItsScreen) {
-    giveWords("ring\nking\n");
+    EXPECT_EQ(found("ing"), "ring|king") << "a stop is noticed at the next line that is not blank";
+    duringSearch([] { search("ong"); });
+    EXPECT_EQ(found("ing"), "kong|king|wing") << "the first search goes on in the list of the second";
     duringSearch([] { frmDictionary->Command2.setValue(true); });
-    frmDictionary->txtWord.setText("ing");
-    frmDictionary->cmdSearch.setValue(true);
-    EXPECT_FALSE(frmDictionary.isLoaded());
+    search("ing");
+    EXPECT_FALSE(frmDictionary.isLoaded()) << "a search outlives its screen";
 }
 
 TEST_F(Dictionary, AMissingListEndsTheProgramWithTheErrorThatNamesIt) {
-    frmDictionary->txtWord.setText("ing");
-    frmDictionary->cmdSearch.setValue(true);
+    search("ing");
     EXPECT_EQ(desk().takeGeneralError(), "53: File not found: " + path("database/eng.xon"));
 }
 
 TEST_F(Dictionary, TheListThatShipsHoldsPlainEnglishWords) {
     QFile::copy(LYREBROOK_WORD_LIST, path("database/eng.xon"));
-    EXPECT_EQ(found("ightingale"), (QStringList{"Nightingale", "nightingale"}));
-    EXPECT_THAT(found("'s"), SizeIs(0));
+    EXPECT_EQ(found("ightingale"), "Nightingale|nightingale");
+    EXPECT_EQ(found("'s"), "");
 }
 
 }  // namespace

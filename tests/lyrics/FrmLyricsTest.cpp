@@ -13,6 +13,9 @@ namespace {
 
 using testing::ElementsAre;
 
+const Box notLoaded{
+    QStringLiteral("Lyrics could not be updated. Please delete the last line of lyrics and try again.")};
+
 /// The editor over the lyric file of a song.
 class LyricEditor : public Studio {
   protected:
@@ -29,9 +32,7 @@ class LyricEditor : public Studio {
         file.close();
         if (!whole) desk().willAnswer(vbOK);
         frmLyrics->loadLyricsFromTextFile();
-        const Box told{
-            QStringLiteral("Lyrics could not be updated. Please delete the last line of lyrics and try again.")};
-        EXPECT_EQ(desk().takeBoxes(), whole ? std::vector<Box>{} : std::vector{told});
+        EXPECT_EQ(desk().takeBoxes(), whole ? std::vector<Box>{} : std::vector{notLoaded});
     }
     static QByteArray fileContent() {
         QFile file(gLyricFile);
@@ -66,6 +67,8 @@ TEST_F(LyricEditor, LoadsWhatItCanOfAnyFile) {
         {QByteArray("1::A\0m::a\0b", 11), QByteArray("000000001::A\0m::a\0b\r\n", 21), true},
         {"1::::caf\xE9\r\n2::::caf\xC3\xA9", "000000001::::caf\xC3\xA9\r\n000000002::::caf\xC3\xA9\r\n", true},
         {longLine, longLine, true}};
+    frmLyrics->loadLyricsFromTextFile();
+    EXPECT_EQ(fileContent(), "") << "a song without a file gets one";
     for (const auto& [content, expected, whole] : cases) {
         frmLyrics->resetLyricsArray();
         load(content, whole);
@@ -109,6 +112,15 @@ TEST_F(LyricEditor, CorrectsALineAndKeepsItsChord) {
     QFile::setPermissions(gLyricFile, QFile::ReadOwner);
     correct(0, "other");
     EXPECT_EQ(desk().takeGeneralError(), QStringLiteral("70: Permission denied"));
+}
+
+TEST_F(LyricEditor, TellsOfAFolderThatVanished) {
+    gLyricFile = path(QStringLiteral("gone/My Song.txt"));
+    desk().willAnswer(vbOK);
+    frmLyrics->loadLyricsFromTextFile();
+    EXPECT_THAT(desk().takeBoxes(), ElementsAre(notLoaded));
+    frmLyrics->cmdSave.setValue(true);
+    EXPECT_EQ(desk().takeGeneralError(), QStringLiteral("76: Path not found"));
 }
 
 TEST_F(LyricEditor, DeletingTheLastEntryLeavesAGhost) {
