@@ -16,12 +16,11 @@ namespace {
 
 constexpr std::int32_t feedFullScale = 15768;
 
-/// Rounded as whole numbers are; quiet sound stands at the noise floor.
-std::int32_t fedLevel(double average) {
+/// Quiet sound stands at the noise floor.
+double fedLevel(double average) {
     constexpr double quiet = 3000;
     constexpr double noiseFloor = 1500;
-    if (average < quiet) return toInt32(noiseFloor);
-    return toInt32(std::min<double>(average, feedFullScale));
+    return average < quiet ? noiseFloor : std::min<double>(average, feedFullScale);
 }
 
 void update(std::int32_t& last, std::int32_t level, std::int32_t fullScale, PictureBox& picture, TextBox& box) {
@@ -55,11 +54,11 @@ void updateVUMeters(std::int32_t left, std::int32_t right, std::int32_t fullScal
 
 void feedLevelColumns(const std::optional<LevelBars::Averages>& averages) {
     if (!averages || !gMixerOpen || gVUColors.empty()) return;  // it may still be opening, with a message box
-    const std::int32_t left = fedLevel(averages->left);
-    drawVUMeter(feedFullScale, left, frmVolumeMixer->picLeftVUMeter);
-    drawVUMeter(feedFullScale, fedLevel(averages->right), frmVolumeMixer->picRightVUMeter);
+    const double left = fedLevel(averages->left);
+    drawVUMeter(feedFullScale, toInt32(left), frmVolumeMixer->picLeftVUMeter);
+    drawVUMeter(feedFullScale, toInt32(fedLevel(averages->right)), frmVolumeMixer->picRightVUMeter);
     constexpr int tooLoud = 80;
-    const Colour lamp = std::floor(100.0 * left / feedFullScale) > tooLoud ? red : green;
+    const Colour lamp = std::floor(left / feedFullScale * 100) > tooLoud ? red : green;
     frmVolumeMixer->txtLeftVUMeter.setBackColor(lamp);
     frmVolumeMixer->txtRightVUMeter.setBackColor(lamp);
 }

@@ -7,6 +7,7 @@
 #include "backtrack/FrmSelect.h"
 #include "mixer/MixerStudio.h"
 #include "mixer/TableCard.h"
+#include "mixer/levelMeters.h"
 #include "mixer/mixerMessages.h"
 #include "mixer/waveInput.h"
 #include "platform/base/RuntimeError.h"
@@ -51,7 +52,7 @@ class MixerScreen : public MixerStudio {
     }
 
     static constexpr int wave = 1;
-    static constexpr int microphone = 1;
+    static constexpr int microphone = 0;
 };
 
 TEST_F(MixerScreen, OpensFromThreeStepsAndGoesWithThem) {
@@ -65,19 +66,18 @@ TEST_F(MixerScreen, OpensFromThreeStepsAndGoesWithThem) {
 }
 
 TEST_F(MixerScreen, StaysAwayWhileAStepPlays) {
+    const auto refusedWith = [this](const QString& text, const std::function<void()>& click) {
+        desk().willAnswer(vbOK);
+        click();
+        EXPECT_THAT(desk().takeBoxes(), ElementsAre(Box{text}));
+    };
     frmMixer.Show();
     frmMixer->cmdPlay.setValue(true);
-    desk().willAnswer(vbOK);
-    frmMixer->cmdMixer.setValue(true);
-    EXPECT_THAT(desk().takeBoxes(),
-                ElementsAre(Box{QStringLiteral("Window can not open while recording or playing!")}));
+    const QString refusal = QStringLiteral("Window can not open while recording or playing!");
+    refusedWith(refusal, [] { frmMixer->cmdMixer.setValue(true); });
     frmComposer.Show();
     frmComposer->cmdPlay.setValue(true);
-    desk().willAnswer(vbOK);
-    frmComposer->mnuVolume2.Click.fire();
-    EXPECT_THAT(
-        desk().takeBoxes(),
-        ElementsAre(Box{QStringLiteral("Window can not open while recording or playing! Click stop and try again.")}));
+    refusedWith(refusal + QStringLiteral(" Click stop and try again."), [] { frmComposer->mnuVolume2.Click.fire(); });
 }
 
 TEST_F(MixerScreen, CloseStopsTheStepAndHidesAndTheNextClickShowsItAsItWas) {
@@ -124,15 +124,15 @@ TEST_F(MixerScreen, ASelectionComesRightWithTheCardsMessage) {
     whileOpen([this] {
         const auto ticks = [] {
             std::vector<int> values;
-            for (int i = 0; i < 3; ++i) values.push_back(frmVolumeMixer->chkRecordSelect[i].Value());
+            for (const int i : {0, 1, 5}) values.push_back(frmVolumeMixer->chkRecordSelect[i].Value());
             return values;
         };
-        EXPECT_THAT(ticks(), ElementsAre(1, 0, 0));
+        EXPECT_THAT(ticks(), ElementsAre(0, 0, 1));
         frmVolumeMixer->chkRecordSelect[microphone].setValue(1);
         EXPECT_THAT(ticks(), ElementsAre(0, 0, 0)) << "clearing the other cleared this one";
         EXPECT_EQ(card().selectedRecording(), RecordingLine::microphone);
         hearMessages();
-        EXPECT_THAT(ticks(), ElementsAre(0, 1, 0));
+        EXPECT_THAT(ticks(), ElementsAre(1, 0, 0));
         frmVolumeMixer->chkRecordSelect[microphone].setValue(0);
         EXPECT_EQ(card().selectedRecording(), RecordingLine::microphone) << "a tick taken away is not written";
     });
@@ -164,7 +164,7 @@ TEST_F(MixerScreen, AMixerThatCannotBeOpenedLeavesItLoadedAndHidden) {
     EXPECT_TRUE(frmVolumeMixer.isLoaded());
     EXPECT_FALSE(frmVolumeMixer->Visible());
     EXPECT_FALSE(gMixerOpen);
-    whileOpen([] { EXPECT_EQ(shownPanels(frmVolumeMixer->playbackRow()), 7); });
+    whileOpen([] { EXPECT_EQ(captions(frmVolumeMixer->playbackRow()).size(), 7U); });
 }
 
 TEST_F(MixerScreen, AnotherDeviceIsOpenedAfreshAndBothWaitsEndTogether) {
@@ -206,6 +206,12 @@ TEST_F(MixerScreen, TheStepsFeedItsColumnsAndTheLeftSideColoursBothLamps) {
     };
     fromStep(frmMixer, measure);
     fromStep(frmComposer, measure);
+    whileOpen([] {
+        for (const auto& [left, lamp] : {std::pair(12772.0, green), {12772.3, red}}) {  // 81 percent is 12772.08
+            feedLevelColumns(LevelBars::Averages{left, 0});
+            EXPECT_EQ(frmVolumeMixer->txtLeftVUMeter.BackColor(), lamp) << left;
+        }
+    });
 }
 
 TEST_F(MixerScreen, ACaptureThatSomebodyOpensMovesTheColumns) {

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <cstring>
-
 #include "mixer/waveInput.h"
 #include "platform/base/RuntimeError.h"
 
@@ -19,37 +17,31 @@ TEST(VuRamp, IsBlackToTheMiddleAndRisesToFullRed) {
 }
 
 TEST(LevelColumn, IsLitUpToTheLevelAndNotBeyondTheTop) {
-    EXPECT_EQ(topLitRow(15768, 0, 150), 150);
-    EXPECT_EQ(topLitRow(15768, 15768, 150), 0);
-    EXPECT_EQ(topLitRow(15768, 99999, 150), 0);
-    EXPECT_EQ(topLitRow(100, 33, 150), 100) << "a half goes to even";
+    for (const auto& [level, top] : {std::pair(0, 150), {33, 100}, {100, 0}, {999, 0}})  // 100.5 goes to even
+        EXPECT_EQ(topLitRow(100, level, 150), top);
 }
 
 TEST(Percent, IsCountedFromTheSlidersLowerEnd) {
-    EXPECT_EQ(percentText(0, 0, 65535), QStringLiteral("100"));
-    EXPECT_EQ(percentText(65535, 0, 65535), QStringLiteral("0"));
-    EXPECT_EQ(percentText(199, 0, 200), QStringLiteral("0")) << "a half goes to even";
-    EXPECT_EQ(percentText(197, 0, 200), QStringLiteral("2"));
+    for (const auto& [value, text] : {std::pair(0, "100"), {200, "0"}, {199, "0"}, {197, "2"}})  // halves go to even
+        EXPECT_EQ(percentText(value, 0, 200), text);
     EXPECT_THROW(percentText(5, 5, 5), RuntimeError);
     EXPECT_EQ(turnedOver(10, -100, 100), -10);
 }
 
 template <class Sample>
-InputPeaks peaksOf(std::vector<Sample> samples, std::int32_t channels) {
-    WAVEHDR header{.lpData = reinterpret_cast<std::byte*>(samples.data()),
-                   .dwBytesRecorded = static_cast<std::int32_t>(samples.size() * sizeof(Sample))};
-    return getInputPeaks(header, {channels, 44100, 8 * static_cast<std::int32_t>(sizeof(Sample))});
+std::pair<std::int32_t, std::int32_t> peaksOf(std::vector<Sample> samples, std::int32_t channels) {
+    const WAVEHDR header{.lpData = reinterpret_cast<std::byte*>(samples.data()),
+                         .dwBytesRecorded = static_cast<std::int32_t>(samples.size() * sizeof(Sample))};
+    const InputPeaks peaks = getInputPeaks(header, {channels, 44100, 8 * static_cast<std::int32_t>(sizeof(Sample))});
+    return {peaks.left, peaks.right};
 }
 
 TEST(InputPeaks, CountOnlyThePositiveHalfOfTheWave) {
-    using Wide = std::vector<std::int16_t>;
-    using Narrow = std::vector<std::uint8_t>;
-    const auto sides = [](const InputPeaks& peaks) { return std::pair(peaks.left, peaks.right); };
-    EXPECT_EQ(sides(peaksOf(Wide{-9000, -1, -32768, -2}, 2)), std::pair(0, 0));
-    EXPECT_EQ(sides(peaksOf(Wide{5, -7, 3, 32767}, 2)), std::pair(5, 32767));
-    EXPECT_EQ(sides(peaksOf(Wide{5, -7, 3, 40}, 1)), std::pair(40, 40));
-    EXPECT_EQ(sides(peaksOf(Narrow{128, 0, 130, 255}, 2)), std::pair(2, 127));
-    EXPECT_EQ(sides(peaksOf(Wide{}, 2)), std::pair(0, 0));
+    EXPECT_EQ(peaksOf<std::int16_t>({-9000, -1, -32768, -2}, 2), std::pair(0, 0));
+    EXPECT_EQ(peaksOf<std::int16_t>({5, -7, 3, 32767}, 2), std::pair(5, 32767));
+    EXPECT_EQ(peaksOf<std::int16_t>({5, -7, 3, 40}, 1), std::pair(40, 40));
+    EXPECT_EQ(peaksOf<std::uint8_t>({128, 0, 130, 255}, 2), std::pair(2, 127));
+    EXPECT_EQ(peaksOf<std::int16_t>({}, 2), std::pair(0, 0));
 }
 
 }  // namespace

@@ -25,15 +25,11 @@ class MixerStudio : public Studio {
     /// Lets the change messages come.
     void hearMessages() { desk().DoEvents(); }
 
-    static int shownPanels(const LineRow& row) {
-        int shown = 0;
-        for (int i = 0; i < row.panels.Count(); ++i) shown += row.panels[i].Visible() ? 1 : 0;
-        return shown;
-    }
-
     static std::vector<std::string> captions(const LineRow& row) {
         std::vector<std::string> texts;
-        for (int i = 0; i < shownPanels(row); ++i) texts.push_back(row.panels[i].Caption().toStdString());
+        for (int i = 0; i < row.panels.Count(); ++i) {
+            if (row.panels[i].Visible()) texts.push_back(row.panels[i].Caption().toStdString());
+        }
         return texts;
     }
 };

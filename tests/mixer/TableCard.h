@@ -24,6 +24,7 @@ class TableCard {
     std::map<MixerControlPlace, Values> values;
     std::int32_t opened = -1;
     std::vector<MixerControlPlace> written;
+    std::set<MixerControlPlace> failOnce;  ///< the next reading of these fails
 
     void addDestination(std::int32_t componentType, std::vector<Kind> kinds = {Kind::volume, Kind::mute}) {
         const auto number = static_cast<std::uint16_t>(layout.size());
@@ -56,16 +57,6 @@ class TableCard {
         for (const std::string& name : recording) addSource(name, {Kind::volume});
     }
 
-    void setRange(std::int32_t line, std::int32_t minimum, std::int32_t maximum) {
-        for (MixerDestination& destination : layout) {
-            for (MixerLineInfo& source : destination.sources) {
-                if (source.id != line) continue;
-                source.controls.front().minimum = minimum;
-                source.controls.front().maximum = maximum;
-            }
-        }
-    }
-
   private:
     struct Device final : MixerDevice {
         Device(TableCard& table, MixerListener told) : card(table), listener(std::move(told)) {}
@@ -73,7 +64,7 @@ class TableCard {
         const MixerLayout& layout() const override { return card.layout; }
         std::optional<Values> read(const MixerControlPlace& control) const override {
             const auto found = card.values.find(control);
-            if (found == card.values.end()) return std::nullopt;
+            if (found == card.values.end() || card.failOnce.erase(control) > 0) return std::nullopt;
             return found->second;
         }
         bool write(const MixerControlPlace& control, std::span<const std::int32_t> written) override {

@@ -54,6 +54,8 @@ TEST_F(WaveIn, TheInputIsOpenOnlyWhileSomebodyWantsIt) {
 
 TEST_F(WaveIn, BuffersAreFilledInTurnAndComeBack) {
     open();
+    waveInStart(input);
+    sing(ramp(100));  // for nobody
     std::vector<std::byte> bytes(12 * bytesPerFrame);
     WAVEHDR first = queued(bytes);
     first.dwBufferLength = 5 * bytesPerFrame;
@@ -63,8 +65,9 @@ TEST_F(WaveIn, BuffersAreFilledInTurnAndComeBack) {
     add(first);
     add(second);
     EXPECT_EQ(waveInClose(input), WAVERR_STILLPLAYING);
-    waveInStart(input);
-    sing(ramp(10));
+    const Sound song = ramp(10);
+    sing({song.begin(), song.begin() + 4});
+    sing({song.begin() + 4, song.end()});
     waveInStop(input);
     EXPECT_THAT(ListeningWindow::listen(), ElementsAre(message(MM_WIM_DATA, &first), message(MM_WIM_DATA, &second)));
     EXPECT_EQ(first.dwBytesRecorded, first.dwBufferLength);
@@ -72,28 +75,7 @@ TEST_F(WaveIn, BuffersAreFilledInTurnAndComeBack) {
     EXPECT_EQ(second.dwFlags, WHDR_DONE | WHDR_PREPARED);
     Sound filled(10);
     std::memcpy(filled.data(), bytes.data(), 10 * bytesPerFrame);
-    EXPECT_EQ(filled, ramp(10));
-}
-
-TEST_F(WaveIn, BuffersInTurnHoldTheSongWithoutASeam) {
-    open();
-    waveInStart(input);
-    sing(ramp(100));  // for nobody
-    std::array<std::vector<std::byte>, 2> bytes;
-    std::array<WAVEHDR, 2> headers;
-    for (std::size_t i = 0; i < 2; ++i) {
-        bytes.at(i).resize(framesPerSecond * bytesPerFrame);
-        headers.at(i) = queued(bytes.at(i));
-    }
-    add(headers[0]);
-    for (std::size_t second = 0; second < 5; ++second) {
-        const Sound song = ramp(framesPerSecond, static_cast<std::int16_t>(second));
-        sing(song);
-        add(headers.at((second + 1) % 2));
-        EXPECT_THAT(ListeningWindow::listen(), ElementsAre(message(MM_WIM_DATA, &headers.at(second % 2))));
-        EXPECT_EQ(std::memcmp(bytes.at(second % 2).data(), song.data(), bytes[0].size()), 0) << second;
-    }
-    waveInReset(input);
+    EXPECT_EQ(filled, song);
 }
 
 TEST_F(WaveIn, ResetGivesEverythingBack) {

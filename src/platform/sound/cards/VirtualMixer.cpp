@@ -27,13 +27,15 @@ constexpr std::array playbackLines{
     NamedLine<CardLine>{CardLine::microphone, microphoneKind, "Mic"},
     NamedLine<CardLine>{CardLine::aux, auxiliaryKind, "Aux"},
 };
+/// The mix comes last: of the lines that a preset wants for the song the last one is taken, and a MIDI song isn't in
+/// Wave.
 constexpr std::array recordingLines{
-    NamedLine<RecordingLine>{RecordingLine::stereoMix, analogKind, "Stereo Mix"},
     NamedLine<RecordingLine>{RecordingLine::microphone, microphoneKind, "Mic"},
     NamedLine<RecordingLine>{RecordingLine::lineIn, lineInKind, "Line In"},
     NamedLine<RecordingLine>{RecordingLine::cd, compactDiscKind, "CD"},
     NamedLine<RecordingLine>{RecordingLine::wave, waveOutKind, "Wave"},
     NamedLine<RecordingLine>{RecordingLine::aux, auxiliaryKind, "Aux"},
+    NamedLine<RecordingLine>{RecordingLine::stereoMix, analogKind, "Stereo Mix"},
 };
 
 const MixerControlInfo volumeControl{.kind = MixerControlKind::volume, .items = {}};
