@@ -75,6 +75,8 @@ TEST_P(OddCards, AreShownAndUsedWithWhatTheyHave) {
     whileOpen([this] {
         EXPECT_EQ(captions(frmVolumeMixer->playbackRow()), GetParam().playback);
         EXPECT_EQ(captions(frmVolumeMixer->recordingRow()), GetParam().recording);
+        const QString first = card.layout.empty() ? "IDnotSet" : QString::number(card.layout.front().line.id);
+        EXPECT_EQ(frmVolumeMixer->txtPlaybackLineID[0].Text(), first) << "whatever it is for";
         useAll(frmVolumeMixer->playbackRow(), frmVolumeMixer->playbackLineCount);
         useAll(frmVolumeMixer->recordingRow(), frmVolumeMixer->recordLineCount);
         for (std::size_t i = 0; i < gPlaybackLineIDs.size() && gPlaybackLineCount > 0; ++i) {
