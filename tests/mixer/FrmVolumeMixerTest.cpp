@@ -179,6 +179,7 @@ TEST_F(MixerScreen, AnotherDeviceIsOpenedAfreshAndBothWaitsEndTogether) {
             EXPECT_EQ(table.opened, 1);
             EXPECT_EQ(frmVolumeMixer->lstMixerDevs.ListIndex(), 0);
             EXPECT_THAT(captions(frmVolumeMixer->playbackRow()), ElementsAre("Master", "Wave"));
+            EXPECT_EQ(frmVolumeMixer->HScroll1.Max(), -76) << "narrower than its viewport";
             frmVolumeMixer.Unload();
         });
         frmVolumeMixer->lstMixerDevs.setListIndex(1);
