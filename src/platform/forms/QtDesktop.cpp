@@ -129,8 +129,11 @@ QString QtDesktop::chooseFile(const FileQuestion& question) {
 
 bool QtDesktop::choosePrinter(QPrinter& printer) {
     QPrintDialog dialog(&printer, ActiveForm::window());
-    // Whoever prints makes all pages, and all copies.
+    // Whoever prints makes all pages, and all copies. Qt offers others all the same.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    for (const char* choice : {"gbPrintRange", "reverse"}) {
+        if (auto* widget = dialog.findChild<QWidget*>(QLatin1String(choice))) widget->setEnabled(false);
+    }
     return dialog.exec() == QDialog::Accepted;
 }
 

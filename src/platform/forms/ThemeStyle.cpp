@@ -70,7 +70,7 @@ void paintFocus(QPainter& painter, const QStyleOption& option) {
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75), corner, corner);
 }
 
-void paintComboBox(QPainter& painter, const QStyleOptionComplex& option) {
+void paintBox(QPainter& painter, const QStyleOptionComplex& option) {
     const bool enabled = option.state & QStyle::State_Enabled;
     const bool focused = option.state & QStyle::State_HasFocus;
     painter.setPen(QPen(focused ? theme::accent : theme::edge, 1));
@@ -116,14 +116,20 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 
 void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                     const QWidget* widget) const {
-    if (control != CC_ComboBox) return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control != CC_ComboBox && control != CC_SpinBox)
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    paintComboBox(*painter, *option);
+    paintBox(*painter, *option);
     painter->restore();
-    QStyleOption arrow(*option);
-    arrow.rect = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
-    drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
+    const auto drawArrow = [&](PrimitiveElement element, SubControl place) {
+        QStyleOption arrow(*option);
+        arrow.rect = subControlRect(control, option, place, widget);
+        drawPrimitive(element, &arrow, painter, widget);
+    };
+    if (control == CC_ComboBox) return drawArrow(PE_IndicatorArrowDown, SC_ComboBoxArrow);
+    drawArrow(PE_IndicatorArrowUp, SC_SpinBoxUp);
+    drawArrow(PE_IndicatorArrowDown, SC_SpinBoxDown);
 }
 
 QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
@@ -153,7 +159,7 @@ int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* result) const {
     constexpr int never = 0;
-    if (hint == SH_EtchDisabledText) return never;
+    if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons) return never;
     return QProxyStyle::styleHint(hint, option, widget, result);
 }
 

@@ -2,9 +2,15 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSpinBox>
+#include <QTemporaryDir>
 #include <iostream>
 
 #include "Diary.h"
@@ -142,6 +148,28 @@ TEST_F(RealDesktop, FileDialogKnowsTheFilters) {
     const QString filter = QStringLiteral("Pages (*.Htm)|*.htm;*.html|All Files (*.*)|*.*");
     EXPECT_EQ(desk.chooseFile({purpose, filter, QStringLiteral("c:\\")}), "");
     EXPECT_EQ(takeDiary(), QStringList({"Pages (*.htm *.html)", "All Files (*)", "htm", QDir::homePath()}));
+}
+
+TEST_F(RealDesktop, PrintDialogOffersWhatIsKept) {
+    const QTemporaryDir folder;
+    const QString pdf = folder.filePath(QStringLiteral("lyrics.pdf"));
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            EXPECT_FALSE(dialog->findChild<QWidget*>("printRange")->isEnabled());
+            auto* printers = dialog->findChild<QComboBox*>("printers");
+            printers->setCurrentText(QStringLiteral("Print to File (PDF)"));
+            dialog->findChild<QLineEdit*>("filename")->setText(pdf);
+            dialog->findChild<QSpinBox*>("copies")->setValue(2);
+            dialog->accept();
+        },
+        Qt::QueuedConnection);
+    QPrinter printer;
+    EXPECT_TRUE(desk.choosePrinter(printer));
+    EXPECT_EQ(printer.outputFileName(), pdf);
+    EXPECT_EQ(printer.copyCount(), 2);
 }
 
 TEST_F(RealDesktop, EndsTheProcessAtOnceAfterSilence) {
