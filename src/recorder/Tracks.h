@@ -36,7 +36,6 @@ class Tracks {
     /// Silences and releases the buffers; what was measured stays.
     void CloseAudio();
 
-    const QString& trackFile(int track) const { return slot(track).file; }
     DirectSoundSecondaryBuffer8& trackBuffer(int track) const { return *slot(track).buffer; }
 
     /// The file was there at load, or a take was saved since.

@@ -19,12 +19,6 @@ void CanvasView::setBackground(const QColor& colour) {
     update();
 }
 
-void CanvasView::setPicture(const QImage& picture, Fit fit) {
-    picture_ = picture;
-    fit_ = fit;
-    update();
-}
-
 void CanvasView::setPainting(std::function<void(QPainter&, const QRectF&)> painting) {
     painting_ = std::move(painting);
     update();
@@ -66,25 +60,10 @@ bool CanvasView::fillRow(const QLineF& line, double thickness, const QColor& col
     return true;
 }
 
-void CanvasView::clear() {
-    lines_ = {};
-    update();
-}
-
-QRectF CanvasView::pictureArea() const {
-    const QSizeF size = picture_.deviceIndependentSize();
-    if (fit_ == Fit::crop) return {QPointF(), size};
-    if (fit_ == Fit::stretch) return rect();
-    QRectF area(QPointF(), size.scaled(this->size(), Qt::KeepAspectRatio));
-    area.moveCenter(QRectF(rect()).center());
-    return area;
-}
-
 void CanvasView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (background_.isValid()) painter.fillRect(rect(), background_);  // whole pixels, at any scale
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (!picture_.isNull()) painter.drawImage(pictureArea(), picture_);
+    painter.setRenderHints(QPainter::Antialiasing);
     if (painting_) {
         painter.save();
         painting_(painter, rect());

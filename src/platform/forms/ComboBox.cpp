@@ -48,16 +48,6 @@ void ComboBox::AddItem(const QString& text) {
     combo().setEditText(shown);
 }
 
-void ComboBox::RemoveItem(int index) {
-    if (index < 0 || index >= ListCount())
-        throw RuntimeError(RuntimeErrorNumber::invalidProcedureCall, "Invalid procedure call or argument");
-    const QString shown = Text();
-    const int picked = combo().currentIndex();
-    combo().removeItem(index);
-    combo().setCurrentIndex(picked == index ? -1 : picked - (index < picked ? 1 : 0));
-    if (picked != index) combo().setEditText(shown);
-}
-
 void ComboBox::Clear() {
     combo().clear();
     combo().clearEditText();

@@ -17,7 +17,6 @@ class ComboBox final : public Control {
     QString Text() const;
     void setText(const QString& text);
     void AddItem(const QString& text);
-    void RemoveItem(int index);
     void Clear();
     int ListCount() const;
     QString List(int index) const;

@@ -47,11 +47,6 @@ QString ListBox::List(int index) const {
     return line ? line->text() : QString();
 }
 
-void ListBox::setList(int index, const QString& text) {
-    requireLine(index);
-    list().item(index)->setText(text);
-}
-
 std::int32_t ListBox::ItemData(int index) const {
     requireLine(index);
     return list().item(index)->data(Qt::UserRole).toInt();
@@ -70,15 +65,6 @@ void ListBox::setListIndex(int index) {
     if (index != -1) requireLine(index);
     list().setCurrentRow(index);
     Click.fire();
-}
-
-int ListBox::TopIndex() const {
-    return std::max(0, list().indexAt(QPoint(1, 1)).row());
-}
-
-void ListBox::setTopIndex(int index) {
-    requireLine(index);
-    list().scrollToItem(list().item(index), QAbstractItemView::PositionAtTop);
 }
 
 }  // namespace lyrebrook

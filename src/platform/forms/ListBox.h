@@ -22,7 +22,6 @@ class ListBox : public Control {
     int ListCount() const;
     /// Text of a line, empty outside of the list.
     QString List(int index) const;
-    void setList(int index, const QString& text);
     std::int32_t ItemData(int index) const;
     void setItemData(int index, std::int32_t data);
     /// Index of the line that was added last.
@@ -33,9 +32,6 @@ class ListBox : public Control {
     void setListIndex(int index);
     /// Text of the selected line.
     QString Text() const { return List(ListIndex()); }
-
-    int TopIndex() const;
-    void setTopIndex(int index);
 
     Event<> Click;
     Event<> DblClick;

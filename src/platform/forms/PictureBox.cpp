@@ -28,10 +28,6 @@ CanvasView& PictureBox::canvas() const {
     return as<CanvasView>();
 }
 
-void PictureBox::setPicture(const QImage& picture, Fit fit) {
-    canvas().setPicture(picture, fit);
-}
-
 void PictureBox::setPainting(std::function<void(QPainter&, const QRectF& area)> painting) {
     canvas().setPainting(std::move(painting));
 }
@@ -54,10 +50,6 @@ void PictureBox::setScaleMode(ScaleMode mode) {
 
 void PictureBox::DrawLine(const QLineF& line, Colour colour) {
     canvas().drawLine(QLineF(line.p1() / unit(), line.p2() / unit()), 1 / unit(), toQColor(colour));
-}
-
-void PictureBox::Cls() {
-    canvas().clear();
 }
 
 void PictureBox::applyColours() {

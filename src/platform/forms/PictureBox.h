@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QImage>
 #include <QLineF>
 #include <functional>
 
@@ -16,22 +15,15 @@ class CanvasView;
 
 enum class MouseButton : int { none = 0, left = 1, right = 2, middle = 4 };
 
-enum class Fit {
-    crop,     ///< own size, from the upper left corner: a bar that is uncovered
-    stretch,  ///< the whole box
-    contain,  ///< as large as the box allows, in the middle
-};
-
 /// Unit of `ScaleWidth`, `ScaleHeight` and `DrawLine`.
 enum class ScaleMode { twips = 1, pixels = 3 };
 
-/// A rectangle that holds controls, an image, or lines drawn by code, and that takes the mouse. Shows, from the back:
-/// the back colour, the picture or the painting, the lines.
+/// A rectangle that holds controls, a painting, or lines drawn by code, and that takes the mouse. Shows, from the back:
+/// the back colour, the painting, the lines.
 class PictureBox final : public Control {
   public:
     explicit PictureBox(QWidget* container);
 
-    void setPicture(const QImage& picture, Fit fit = Fit::contain);
     /// Painted anew whenever needed, sharp at every scale, in logical pixels.
     void setPainting(std::function<void(QPainter&, const QRectF& area)> painting);
     void setBorder(bool border);
@@ -39,10 +31,9 @@ class PictureBox final : public Control {
     double ScaleWidth() const;
     double ScaleHeight() const;
     void setScaleMode(ScaleMode mode);
-    /// A line one unit thick, its rows and columns counted from the upper left, that stays until `Cls` or until the box
-    /// changes its size.
+    /// A line one unit thick, its rows and columns counted from the upper left, that stays until the box changes its
+    /// size.
     void DrawLine(const QLineF& line, Colour colour);
-    void Cls();
 
     /// Button, shift state (1 Shift, 2 Ctrl, 4 Alt), and the place in twips of this box.
     using MouseEvent = Event<MouseButton, int, Twips, Twips>;

@@ -68,10 +68,6 @@ void Slider::setLargeChange(std::int32_t change) {
     view().setPageStep(change);
 }
 
-std::int32_t Slider::TickFrequency() const {
-    return view().tickInterval();
-}
-
 void Slider::setTickFrequency(std::int32_t frequency) {
     view().setTickInterval(frequency);
 }

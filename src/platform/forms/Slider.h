@@ -36,7 +36,6 @@ class Slider final : public Control {
     void setMax(std::int32_t max);
     void setSmallChange(std::int32_t change);
     void setLargeChange(std::int32_t change);
-    std::int32_t TickFrequency() const;
     void setTickFrequency(std::int32_t frequency);
     /// 0 bottom or right, 1 top or left, 2 both, 3 none.
     int TickStyle() const { return tickStyle_; }

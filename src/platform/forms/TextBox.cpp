@@ -89,14 +89,6 @@ QString TextBox::SelText() const {
     return withCarriageReturns(page().textCursor().selection().toPlainText());
 }
 
-void TextBox::selectAll() {
-    lines_ == Lines::single ? line().selectAll() : page().selectAll();
-}
-
-bool TextBox::Locked() const {
-    return lines_ == Lines::single ? line().isReadOnly() : page().isReadOnly();
-}
-
 void TextBox::setLocked(bool locked) {
     lines_ == Lines::single ? line().setReadOnly(locked) : page().setReadOnly(locked);
 }

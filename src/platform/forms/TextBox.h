@@ -19,8 +19,6 @@ class TextBox final : public Control {
     QString Text() const;
     void setText(const QString& text);
     QString SelText() const;
-    void selectAll();
-    bool Locked() const;
     /// A locked box shows its text, and lets it be selected, but not be changed.
     void setLocked(bool locked);
     TextAlignment Alignment() const;

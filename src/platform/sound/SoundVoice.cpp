@@ -30,8 +30,4 @@ bool SoundVoice::endedAndCaptured() const {
     return ticket_ != 0 && voice_->endedTicket() == ticket_;
 }
 
-SoundSource& SoundVoice::source() {
-    return voice_->source();
-}
-
 }  // namespace lyrebrook

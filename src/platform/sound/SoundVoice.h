@@ -34,8 +34,6 @@ class SoundVoice {
     /// capture has received what sounded up to there. An input that stays dead for two seconds isn't waited for.
     bool endedAndCaptured() const;
 
-    SoundSource& source();
-
   private:
     std::shared_ptr<SoundEngine> engine_;
     std::unique_ptr<SourceVoice> voice_;

@@ -20,8 +20,6 @@ class SourceVoice final : public EngineUnit {
     void mix(const MixBlock& block) noexcept override;
     void settle(const Progress& progress) noexcept override;
 
-    SoundSource& source() { return *source_; }
-
     /// Ticket of the last start whose sound came to its end and could be captured; 0 before the first.
     std::uint32_t endedTicket() const noexcept { return endedTicket_.load(std::memory_order_acquire); }
 
