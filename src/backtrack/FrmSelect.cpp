@@ -6,7 +6,6 @@
 #include "platform/base/Numbers.h"
 #include "platform/base/RuntimeError.h"
 #include "platform/files/App.h"
-#include "platform/files/FileContent.h"
 #include "platform/files/TextStream.h"
 #include "platform/forms/Boundary.h"
 #include "platform/forms/Desktop.h"

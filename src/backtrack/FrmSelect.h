@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <cstdint>
-#include <memory>
 
 #include "backtrack/BacktrackMusic.h"
 #include "platform/forms/CommandButton.h"

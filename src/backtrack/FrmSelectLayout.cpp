@@ -1,6 +1,5 @@
 #include <QHBoxLayout>
 #include <QHelpEvent>
-#include <QListView>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QToolTip>

@@ -3,7 +3,6 @@
 #include "platform/files/Text.h"
 #include "platform/forms/Desktop.h"
 #include "recorder/FrmComposer.h"
-#include "shell/modConfig.h"
 
 namespace lyrebrook {
 

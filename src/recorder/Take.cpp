@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <span>
 #include <vector>
 
 #include "platform/base/Numbers.h"

@@ -1,7 +1,6 @@
 #include "recorder/levelBarPictures.h"
 
 #include <QHBoxLayout>
-#include <QImage>
 #include <QPainter>
 
 #include "platform/forms/Frame.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-#include <array>
 #include <cstdint>
 
 #include "platform/forms/ControlArray.h"

@@ -1,7 +1,5 @@
 #include "platform/forms/ListBox.h"
 
-#include <algorithm>
-
 #include "platform/base/RuntimeError.h"
 #include "platform/forms/ListView.h"
 

@@ -6,7 +6,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionSlider>
 #include <QToolTip>
 
 #include "platform/forms/Boundary.h"

@@ -1,7 +1,6 @@
 #include "platform/forms/ThemeStyle.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOption>
 
 #include "platform/forms/Theme.h"

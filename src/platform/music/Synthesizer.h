@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <filesystem>
 #include <memory>
-#include <span>
 
 namespace lyrebrook {
 

@@ -1,7 +1,6 @@
 #include "platform/sound/cards/pulse/PulseInput.h"
 
 #include <algorithm>
-#include <span>
 
 #include "platform/sound/cards/pulse/streamSupport.h"
 

@@ -1,7 +1,6 @@
 #include "platform/sound/cards/pulse/PulseOutput.h"
 
 #include <algorithm>
-#include <span>
 #include <utility>
 
 namespace lyrebrook {
