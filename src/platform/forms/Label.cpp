@@ -56,6 +56,7 @@ void Label::showCaption() {
 
 void Label::makeLink() {
     link_ = true;
+    as<QLabel>().setIndent(0);  // else Qt adds half a letter inside the frame
     widget()->setCursor(Qt::PointingHandCursor);
     widget()->setFocusPolicy(Qt::StrongFocus);
     widget()->setProperty("link", true);
