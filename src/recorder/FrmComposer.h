@@ -205,6 +205,7 @@ class FrmComposer final : public Form {
     std::int32_t savedMusicLevel_ = 0;
     QStringList toldUnreadable_;
     bool unloaded_ = false;
+    bool saving_ = false;
 
     std::unique_ptr<DirectX8> dx_;
     std::unique_ptr<DirectSound8> ds_;

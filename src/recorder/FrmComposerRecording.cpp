@@ -4,6 +4,8 @@
 #include "recorder/soundDevices.h"
 #include "shell/modConfig.h"
 
+#include <QScopedValueRollback>
+
 namespace lyrebrook {
 namespace {
 
@@ -57,7 +59,7 @@ void FrmComposer::cmdRecord_Click() {
 
 void FrmComposer::punchOut() {
     SaveRecording();
-    if (!unloaded_) playback_.rejoin(armed(), mix());
+    if (!unloaded_ && playing()) playback_.rejoin(armed(), mix());
 }
 
 /// A merge would write what the buffer holds over what only the file has.
@@ -99,7 +101,10 @@ void FrmComposer::extendRecordedWave() {
     takes_.note({.start = take_.recordStart(), .length = take_.capturedBytes()});
 }
 
+/// While a box is open the song goes on, and its end or its repeat asks for the same take again.
 void FrmComposer::SaveRecording() {
+    if (saving_) return;
+    const QScopedValueRollback saving(saving_, true);
     lblRecording.setVisible(true);
     lblRecording.setForeColor(black);
     lblRecording.setCaption(QStringLiteral("S A V I N G"));
