@@ -15,15 +15,6 @@
 namespace lyrebrook {
 namespace {
 
-enum class Start { fromZero, fromMiddle, punchedIn };
-
-constexpr std::array starts{Start::fromZero, Start::fromMiddle, Start::punchedIn};
-
-const char* nameOf(Start start) {
-    constexpr std::array names{"zero", "middle", "punch"};
-    return names[static_cast<std::size_t>(start)];
-}
-
 /// Both cores at work on something else.
 class BusyCores {
   public:
@@ -45,25 +36,32 @@ void clickOnTimeLine(double fraction) {
     frmComposer->imgSliderB.MouseDown.fire(MouseButton::left, 0, TrackView::margin + fraction * bar, 200);
 }
 
+struct Start {
+    const char* name;
+    void (*go)(ServerStudio& desk);
+};
+
+const Start starts[] = {{"zero", [](ServerStudio&) {}},
+                        {"middle", [](ServerStudio&) { clickOnTimeLine(0.41); }},  // between two clicks
+                        {"punch", [](ServerStudio& desk) {
+                             frmComposer->cmdPlay.setValue(true);
+                             desk.live(777ms);
+                         }}};
+
 /// Records a click track's echo with the recorder's screen, on an empty voice; tells how late it lies in the voice's
 /// file, in milliseconds.
-double lateness(ServerStudio& desk, Start start) {
-    constexpr double middle = 0.41;  // of the song, and between two clicks
+double lateness(ServerStudio& desk, const Start& start) {
     QFile::remove(trackFilePath(2));
     frmComposer.Unload();
     frmComposer.Show();
-    if (start == Start::fromMiddle) clickOnTimeLine(middle);
-    if (start == Start::punchedIn) {
-        frmComposer->cmdPlay.setValue(true);
-        desk.live(777ms);
-    }
+    start.go(desk);
     frmComposer->cmdRecord.setValue(true);
     desk.live(800ms);
     frmComposer->cmdStop.setValue(true);
     return clicksBehind(framesOf(trackFilePath(2)), 0) * 1000 / framesPerSecond;
 }
 
-double medianLateness(ServerStudio& desk, Start start) {
+double medianLateness(ServerStudio& desk, const Start& start) {
     std::array<double, 5> runs{};
     for (double& run : runs) run = lateness(desk, start);
     std::ranges::sort(runs);
@@ -78,10 +76,10 @@ class Alignment : public testing::TestWithParam<ServerKind> {
         writeWaveFile(trackFilePath(1).toStdString(), clicks(20 * framesPerSecond));
         frmComposer.Show();
         desk.live(1s);
-        for (const Start start : starts) {
+        for (const Start& start : starts) {
             const double late = medianLateness(desk, start);
-            std::printf("ALIGN %s %s %s %.2f\n", lyrebrook::nameOf(GetParam()).c_str(), nameOf(start), load, late);
-            EXPECT_LE(std::abs(late), limit) << nameOf(start);
+            std::printf("ALIGN %s %s %s %.2f\n", nameOf(GetParam()).c_str(), start.name, load, late);
+            EXPECT_LE(std::abs(late), limit) << start.name;
         }
     }
 };

@@ -3,15 +3,11 @@
 #include <chrono>
 
 #include "integration/support/MuteServer.h"
-#include "integration/support/SoundServer.h"
-#include "platform/sound/cards/PulseCard.h"
-#include "platform/sound/cards/VirtualCard.h"
+#include "integration/support/ServerDesk.h"
 #include "platform/sound/cards/chooseCard.h"
 
 namespace lyrebrook {
 namespace {
-
-using namespace std::chrono_literals;
 
 struct Choice {
     bool pulse = false;
@@ -41,6 +37,10 @@ TEST(CardChoice, WithoutAServerTheEmbeddedCardIsTakenAtOnce) {
     const Choice choice = choose();
     EXPECT_FALSE(choice.pulse);
     EXPECT_LT(choice.took, 500ms);
+    SoundSystem::install(chooseCard());
+    EXPECT_TRUE(waitUntil([] { return SoundSystem::engine()->mixedFrames() > framesPerSecond / 10; }, 10s))
+        << "it plays by itself";
+    SoundSystem::remove();
 }
 
 TEST(CardChoice, AServerThatNeverAnswersIsWaitedForNoLongerThanASecond) {

@@ -1,13 +1,6 @@
 #include "recorder/LevelBars.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <vector>
-
-#include "platform/sound/DirectSoundCapture8.h"
-#include "platform/sound/SoundSystem.h"
-#include "platform/sound/cards/VirtualCard.h"
+#include "platform/sound/SoundDesk.h"
 #include "recorder/soundBuffers.h"
 
 namespace lyrebrook {
@@ -15,23 +8,15 @@ namespace {
 
 class LevelBarsAtTheInput : public testing::Test {
   protected:
-    LevelBarsAtTheInput() {
-        auto owned = std::make_unique<VirtualCard>(VirtualCard::Clock::handCrank);
-        card = owned.get();
-        card->selectRecording(RecordingLine::lineIn);
-        SoundSystem::install(std::move(owned));
-        DirectSoundCapture8 capture(SoundSystem::engine());
-        buffer = startMeterCapture(capture);
-    }
-    ~LevelBarsAtTheInput() override { SoundSystem::remove(); }
+    LevelBarsAtTheInput() { desk.card->selectRecording(RecordingLine::lineIn); }
 
-    void comesIn(Frames frames, StereoFrame sound) {
-        card->feed(CardLine::lineIn, std::vector<StereoFrame>(static_cast<std::size_t>(frames), sound));
-        card->advance(frames);
+    void comesIn(std::size_t frames, StereoFrame sound) {
+        desk.card->feed(CardLine::lineIn, Sound(frames, sound));
+        desk.card->advance(static_cast<Frames>(frames));
     }
 
-    VirtualCard* card;
-    std::unique_ptr<DirectSoundCaptureBuffer8> buffer;
+    SoundDesk desk;
+    std::unique_ptr<DirectSoundCaptureBuffer8> buffer = startMeterCapture(desk.dsc);
     LevelBars bars;
 };
 

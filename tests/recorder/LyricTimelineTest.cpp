@@ -57,6 +57,7 @@ TEST_F(LyricsInRecorder, StaysAsItIsWithLyricsOffAndWhenTheEditorTakesTheLinesAw
     write(8, "C", "two");
     for (const int enabled : {0, 1}) {
         frmComposer->chkLyrics.setValue(enabled);
+        EXPECT_EQ(frmComposer->Timer1.Interval(), enabled == 1 ? 20 : 500);
         moveTo(5);
         clickPlay();
         if (enabled == 1) frmLyrics->resetLyricsArray();

@@ -6,7 +6,6 @@
 #include "recorder/FrmComposer.h"
 #include "recorder/recorderMemory.h"
 #include "shell/modConfig.h"
-#include "support/Sound.h"
 #include "support/Studio.h"
 
 namespace lyrebrook {
@@ -15,10 +14,6 @@ using namespace std::chrono_literals;
 
 constexpr std::size_t second = framesPerSecond;
 constexpr std::size_t songSeconds = 100;
-
-inline Sound part(const Sound& sound, std::size_t from, std::size_t to) {
-    return {sound.begin() + static_cast<std::ptrdiff_t>(from), sound.begin() + static_cast<std::ptrdiff_t>(to)};
-}
 
 /// Sound of one value, which tells who made it.
 inline Sound tone(std::size_t frames, std::int16_t value) {

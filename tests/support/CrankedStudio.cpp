@@ -69,23 +69,13 @@ bool CrankedStudio::crankUntil(const std::function<bool()>& done, std::chrono::m
     return done();
 }
 
-std::vector<StereoFrame> framesOf(const QString& path) {
+Sound framesOf(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
     const QByteArray sound = file.readAll().mid(headerBytes);
-    std::vector<StereoFrame> frames(static_cast<std::size_t>(sound.size()) / bytesPerFrame);
+    Sound frames(static_cast<std::size_t>(sound.size()) / bytesPerFrame);
     if (!frames.empty()) std::memcpy(frames.data(), sound.constData(), frames.size() * bytesPerFrame);
     return frames;
-}
-
-std::vector<StereoFrame> ramp(std::size_t frames) {
-    constexpr std::size_t period = 30000;
-    std::vector<StereoFrame> sound(frames);
-    for (std::size_t i = 0; i < frames; ++i) {
-        const auto step = static_cast<std::int16_t>(i % period + 1);
-        sound[i] = {step, static_cast<std::int16_t>(-step)};
-    }
-    return sound;
 }
 
 }  // namespace lyrebrook

@@ -3,11 +3,10 @@
 #include <QString>
 #include <chrono>
 #include <functional>
-#include <vector>
 
-#include "platform/sound/SoundFormat.h"
 #include "platform/sound/cards/VirtualCard.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Sound.h"
 
 namespace lyrebrook {
 
@@ -41,10 +40,6 @@ class CrankedStudio {
 };
 
 /// Frames of a wave file of ours: what lies behind its header of 44 bytes.
-std::vector<StereoFrame> framesOf(const QString& path);
-
-/// Frames that each tell their own place, so that a lost, doubled or shifted one shows: the left side counts up from
-/// 1, the right down, both again from the start after 30000.
-std::vector<StereoFrame> ramp(std::size_t frames);
+Sound framesOf(const QString& path);
 
 }  // namespace lyrebrook

@@ -63,36 +63,8 @@ ServerDesk::ServerDesk(ServerKind kind) : server(kind) {
     meter_->Start(DSCBSTART_LOOPING);
 }
 
-std::unique_ptr<DirectSoundSecondaryBuffer8> ServerDesk::buffer(const Sound& sound) {
-    const auto bytes = static_cast<std::int32_t>(std::span(sound).size_bytes());
-    auto made = DirectSound8(SoundSystem::engine())
-                    .CreateSoundBuffer({.lFlags = 17088, .lBufferBytes = bytes, .fxFormat = trackFormat()});
-    made->WriteBuffer(0, bytes, std::as_bytes(std::span(sound)), 0);
-    return made;
-}
-
-std::unique_ptr<DirectSoundCaptureBuffer8> ServerDesk::capture(Frames length) {
-    return DirectSoundCapture8(SoundSystem::engine())
-        .CreateCaptureBuffer({.lFlags = 0, .lBufferBytes = toBytes(length), .fxFormat = trackFormat()});
-}
-
 Frames capturedFrames(const DirectSoundCaptureBuffer8& capture) {
-    DSCURSORS cursors;
-    capture.GetCurrentPosition(cursors);
-    return wholeFrames(cursors.lWrite);
-}
-
-Sound captured(const DirectSoundCaptureBuffer8& capture) {
-    const Frames frames = capturedFrames(capture);
-    Sound sound(static_cast<std::size_t>(frames));
-    capture.ReadBuffer(0, toBytes(frames), std::as_writable_bytes(std::span(sound)), 0);
-    return sound;
-}
-
-Frames playCursor(const DirectSoundSecondaryBuffer8& buffer) {
-    DSCURSORS cursors;
-    buffer.GetCurrentPosition(cursors);
-    return wholeFrames(cursors.lPlay);
+    return wholeFrames(cursors(capture).lWrite);
 }
 
 }  // namespace lyrebrook

@@ -10,16 +10,12 @@
 #include <vector>
 
 #include "integration/support/SoundServer.h"
-#include "platform/sound/DirectSound8.h"
-#include "platform/sound/DirectSoundCapture8.h"
-#include "platform/sound/SoundSystem.h"
-#include "platform/sound/SoundTransaction.h"
+#include "platform/sound/SoundDesk.h"
 #include "platform/sound/cards/PulseCard.h"
 
 namespace lyrebrook {
 
 using namespace std::chrono_literals;
-using Sound = std::vector<StereoFrame>;
 
 /// Clicks at equal distances from the first frame on, in silence.
 inline constexpr Frames clickDistance = framesPerSecond / 2;
@@ -34,7 +30,7 @@ void wait(std::chrono::milliseconds time);
 bool waitUntil(const std::function<bool()>& done, std::chrono::milliseconds limit);
 
 /// The program's sound system on a real server, with a meter that keeps the input open, as a recording screen does.
-class ServerDesk {
+class ServerDesk : public SoundObjects {
   public:
     explicit ServerDesk(ServerKind kind);
     ~ServerDesk() { SoundSystem::remove(); }
@@ -43,9 +39,6 @@ class ServerDesk {
 
     SoundServer server;
     PulseCard* card = nullptr;
-
-    std::unique_ptr<DirectSoundSecondaryBuffer8> buffer(const Sound& sound);
-    std::unique_ptr<DirectSoundCaptureBuffer8> capture(Frames length);
 
   private:
     std::unique_ptr<DirectSoundCaptureBuffer8> meter_;
@@ -57,9 +50,6 @@ inline std::string serverName(const testing::TestParamInfo<ServerKind>& test) {
     return nameOf(test.param);
 }
 
-/// What a capture holds up to its cursor.
-Sound captured(const DirectSoundCaptureBuffer8& capture);
 Frames capturedFrames(const DirectSoundCaptureBuffer8& capture);
-Frames playCursor(const DirectSoundSecondaryBuffer8& buffer);
 
 }  // namespace lyrebrook

@@ -5,10 +5,12 @@
 namespace lyrebrook {
 namespace {
 
-using AppTest = FilesTest;
+class AppTest : public FilesTest {
+  protected:
+    const DataPlaces places{path("program"), path("installed"), path("user")};
+};
 
 TEST_F(AppTest, ThePersonsFolderIsFilledOnceFromTheInstalledData) {
-    const DataPlaces places{path("program"), path("installed"), path("user")};
     QDir().mkpath(path("installed/database"));
     QDir().mkpath(path("installed/templates/cdRedPlayer/images"));
     QFile::setPermissions(holding("installed/database/eng.xon", "song"), QFile::ReadOwner);
@@ -27,7 +29,6 @@ TEST_F(AppTest, ThePersonsFolderIsFilledOnceFromTheInstalledData) {
 }
 
 TEST_F(AppTest, TheProgramsOwnFolderIsUsedWhileItHoldsSongs) {
-    const DataPlaces places{path("program"), path("installed"), path("user")};
     QDir().mkpath(path("program/songs"));
     EXPECT_EQ(dataFolder(places), path("user"));
     QDir().mkpath(path("program/projects"));
@@ -37,7 +38,7 @@ TEST_F(AppTest, TheProgramsOwnFolderIsUsedWhileItHoldsSongs) {
 TEST_F(AppTest, AFolderThatCouldNotBeFilledIsNotLeftHalfFilled) {
     QDir().mkpath(path("installed/support"));
     QFile::link("loop", path("installed/support/loop"));
-    dataFolder({path("program"), path("installed"), path("user")});
+    dataFolder(places);
     EXPECT_EQ(names(), QStringList{"installed"});
 }
 

@@ -44,13 +44,6 @@ TEST_F(TextStreamTest, AllThatIsLeftKeepsItsLineEnds) {
     EXPECT_EQ(errorOf([&] { stream.ReadAll(); }), 62);
 }
 
-TEST_F(TextStreamTest, AHugeLineIsOneLine) {
-    const QByteArray huge(10'000'000, 'x');
-    const QStringList lines = linesOf(huge + "\r\nshort");
-    ASSERT_EQ(lines.size(), 2);
-    EXPECT_EQ(lines[0].size(), huge.size());
-}
-
 TEST_F(TextStreamTest, AFileThatDoesNotTellItsSizeIsReadWhole) {
     TextStream stream = TextStream::openForReading("/proc/self/status");
     EXPECT_TRUE(stream.ReadLine().startsWith("Name:"));

@@ -59,17 +59,13 @@ TEST_F(Loader, WavesOfAnyKindSoundAtTheirPitchAndLengthWhateverTheTempo) {
     }
 }
 
-TEST_F(Loader, WhatATornFileStillHoldsIsPlayed) {
+TEST_F(Loader, WhatATornFileOfAnyNameStillHoldsIsPlayed) {
     const std::string oneKnockLeft = twoKnocks.substr(0, twoKnocks.size() - 10);
-    EXPECT_EQ(beginnings(sounded(desk.file("torn.mid", oneKnockLeft))).size(), 1U);
+    EXPECT_EQ(beginnings(sounded(desk.file("torn.wav", oneKnockLeft))).size(), 1U);
 
     const auto wave = tone("claims more.wav", 44100, 2, SF_FORMAT_WAV | SF_FORMAT_PCM_16);
     std::filesystem::resize_file(wave, 44 + 4 * 30000);
     EXPECT_NEAR(secondsOf(sounded(wave)), 30000.0 / 44100, 0.012);
-}
-
-TEST_F(Loader, TheContentTellsMidiNotTheName) {
-    EXPECT_EQ(beginnings(sounded(desk.file("song.wav", twoKnocks))).size(), 2U);
 }
 
 TEST_F(Loader, TheShippedSongIsAMinuteLongAndDoesNotClip) {

@@ -14,42 +14,29 @@
 
 namespace lyrebrook {
 
-/// Frames that tell their place: one lost, doubled or moved shows itself.
-inline Sound ramp(Frames length, std::int16_t first = 1) {
-    Sound sound;
-    for (Frames i = 0; i < length; ++i) {
-        const auto value = static_cast<std::int16_t>(first + i % 15000);
-        sound.push_back({value, static_cast<std::int16_t>(-value)});
+/// Makes sound objects on the card that is installed.
+struct SoundObjects {
+    static std::unique_ptr<DirectSoundSecondaryBuffer8> buffer(const Sound& sound) {
+        const auto bytes = static_cast<std::int32_t>(std::span(sound).size_bytes());
+        auto made = DirectSound8(SoundSystem::engine())
+                        .CreateSoundBuffer({.lFlags = 17088, .lBufferBytes = bytes, .fxFormat = trackFormat()});
+        made->WriteBuffer(0, bytes, std::as_bytes(std::span(sound)), 0);
+        return made;
     }
-    return sound;
-}
 
-inline Sound silence(Frames length) {
-    return Sound(static_cast<std::size_t>(length));
-}
-
-inline Sound part(const Sound& sound, Frames from, Frames length) {
-    return {sound.begin() + from, sound.begin() + from + length};
-}
+    static std::unique_ptr<DirectSoundCaptureBuffer8> capture(Frames length) {
+        return DirectSoundCapture8(SoundSystem::engine())
+            .CreateCaptureBuffer({.lFlags = 0, .lBufferBytes = toBytes(length), .fxFormat = trackFormat()});
+    }
+};
 
 /// A hand-cranked card with its engine, as the program has it, and what was heard of it.
-class SoundDesk {
+class SoundDesk : public SoundObjects {
   public:
     explicit SoundDesk(Frames captureLatency = 0) : card(install(captureLatency)) {}
     ~SoundDesk() { SoundSystem::remove(); }
     SoundDesk(const SoundDesk&) = delete;
     SoundDesk& operator=(const SoundDesk&) = delete;
-
-    std::unique_ptr<DirectSoundSecondaryBuffer8> buffer(const Sound& sound) {
-        const auto bytes = static_cast<std::int32_t>(std::span(sound).size_bytes());
-        auto made = ds.CreateSoundBuffer({.lFlags = 17088, .lBufferBytes = bytes, .fxFormat = trackFormat()});
-        made->WriteBuffer(0, bytes, std::as_bytes(std::span(sound)), 0);
-        return made;
-    }
-
-    std::unique_ptr<DirectSoundCaptureBuffer8> capture(Frames length) {
-        return dsc.CreateCaptureBuffer({.lFlags = 0, .lBufferBytes = toBytes(length), .fxFormat = trackFormat()});
-    }
 
     Sound heard;
     VirtualCard* card;

@@ -62,18 +62,6 @@ TEST(Timeline, ATransactionStartsAllOnOneFrameHoweverLateItEnds) {
     EXPECT_EQ(captured(*take), both);
 }
 
-TEST(Timeline, AnEmptyBufferTakesEveryCallInSilence) {
-    SoundDesk desk;
-    const auto buffer = desk.buffer({});
-    buffer->SetCurrentPosition(400);
-    buffer->SetVolume(-300);
-    buffer->Play(0);
-    EXPECT_EQ(buffer->GetStatus(), 0);
-    desk.card->advance(10);
-    EXPECT_EQ(cursors(*buffer).lPlay, 0);
-    EXPECT_EQ(desk.heard, silence(10));
-}
-
 TEST(Timeline, LoudSumsAreClippedNotWrapped) {
     SoundDesk desk;
     const auto one = desk.buffer(Sound(10, {30000, -30000}));

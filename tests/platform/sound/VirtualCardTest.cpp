@@ -67,13 +67,5 @@ TEST(VirtualCard, TheSelectedLineIsRecordedAtItsOwnLevel) {
     EXPECT_EQ(studio.nextRecorded(), (StereoFrame{0, 0}));
 }
 
-TEST(VirtualCard, ByTheRealClockItPlaysByItself) {
-    auto owned = std::make_unique<VirtualCard>(VirtualCard::Clock::realTime);
-    SoundSystem::install(std::move(owned));
-    while (SoundSystem::engine()->mixedFrames() < 3 * framesPerSecond / 100) std::this_thread::yield();
-    SoundSystem::remove();
-    EXPECT_EQ(SoundSystem::card(), nullptr);
-}
-
 }  // namespace
 }  // namespace lyrebrook

@@ -2,7 +2,6 @@
 
 #include <signal.h>
 #include <sndfile.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -186,24 +185,6 @@ TEST_F(WaveFiles, ASaveThatIsKilledLeavesTheOldTakeWhole) {
         ASSERT_TRUE(WIFSIGNALED(status)) << whileWriting;
         EXPECT_EQ(read(path), old) << whileWriting;
     }
-}
-
-TEST_F(WaveFiles, ASaveThatFindsTheDiskFullSaysSo) {
-    const Bytes old = header(400) + bytesOf(ramp(100));
-    const auto path = write(old);
-    ::signal(SIGXFSZ, SIG_IGN);
-    rlimit former{};
-    ::getrlimit(RLIMIT_FSIZE, &former);
-    const rlimit tight{.rlim_cur = 100000, .rlim_max = former.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &tight);
-    try {
-        writeWaveFile(path, ramp(50000));
-        ADD_FAILURE() << "saved more than fits";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.number(), static_cast<std::int32_t>(RuntimeErrorNumber::diskFull));
-    }
-    ::setrlimit(RLIMIT_FSIZE, &former);
-    EXPECT_EQ(read(path), old);
 }
 
 }  // namespace
