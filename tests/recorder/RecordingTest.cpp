@@ -266,7 +266,7 @@ TEST_F(Recording, TellsThatItSavesAndMayBeClosedMeanwhile) {
 }
 
 TEST_F(Recording, AFailedSaveKeepsTheOldTrackAndIsTriedAgainOnRequest) {
-    giveTrack(2, tone(10 * second, 100));
+    giveTrack(2, tone(songSeconds * second, 100));
     open();
     const QByteArray old = fileOf(2);
     FailingDisk disk;
@@ -302,7 +302,7 @@ TEST_F(Recording, AFailedSaveKeepsTheOldTrackAndIsTriedAgainOnRequest) {
     });
     recordUntilTheDiskIsFull();
     expectBoxes(boxOf("61 | Desc: Disk full"));
-    EXPECT_TRUE(track(2) == tone(10 * second, 100) + silence(85 * second) + tone(2 * second, 200));
+    EXPECT_TRUE(track(2) == tone(95 * second, 100) + tone(2 * second, 200) + tone(3 * second, 100));
     EXPECT_FALSE(recording() || frmComposer->playing()) << "the end of the song came meanwhile";
     EXPECT_THAT(listen(100ms), Each(StereoFrame{}));
 }
