@@ -117,14 +117,15 @@ class Faults : public testing::TestWithParam<std::tuple<ServerKind, Fault, Scree
     }
 
     bool tells(const char* text) {
-        return desk.liveUntil([&] { return screen.notice() == QString::fromLatin1(text); }, 8s);
+        const QString wanted = QString::fromLatin1(text);
+        return desk.liveUntil([&] { return screen.notice() == wanted; }, 16s);
     }
 
     bool isLoss() const { return *fault.loss != 0; }
 
     /// A machine that is busy with other work may have come too late for a click.
     bool isWhole(const Clicks& clicks) const {
-        return clicks.heard + static_cast<int>(desk.card->underruns()) >= clicks.due;
+        return clicks.heard + static_cast<int>(desk.card->underruns() - before) >= clicks.due;
     }
 
     Sound recorded() const { return framesOf(trackFilePath(screen.track)); }
@@ -132,17 +133,19 @@ class Faults : public testing::TestWithParam<std::tuple<ServerKind, Fault, Scree
     const Fault& fault = std::get<1>(GetParam());
     const Screen& screen = std::get<2>(GetParam());
     ServerStudio desk{std::get<0>(GetParam())};
+    std::uint32_t before = 0;            // underruns, when the recording began
     std::unique_ptr<MixerDevice> mixer;  // the one that follows other programs
 };
 
 TEST_P(Faults, LeaveTheTakeWholeAndTheNextOneToo) {
+    before = desk.card->underruns();
     screen.record();
     desk.live(2300ms);
     fault.strike(desk);
-    EXPECT_TRUE(!isLoss() || tells(fault.loss));
+    EXPECT_TRUE(tells(fault.loss));
     desk.live(1s);
     fault.mend(desk);
-    EXPECT_TRUE(!isLoss() || tells(fault.back));
+    EXPECT_TRUE(tells(fault.back));
     desk.live(longestWaking + 1500ms);
     screen.stop();
     const Sound take = recorded();
@@ -153,6 +156,7 @@ TEST_P(Faults, LeaveTheTakeWholeAndTheNextOneToo) {
     const Clicks all = clicksIn(take, tolerance, static_cast<Frames>(take.size()) - tolerance);
     EXPECT_EQ(isWhole(all), !isLoss()) << "a hole only where something was lost";
 
+    before = desk.card->underruns();
     screen.record();
     desk.live(1500ms);
     screen.stop();

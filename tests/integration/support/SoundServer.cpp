@@ -23,12 +23,6 @@ constexpr std::chrono::seconds longestStart{15};
 
 const std::string pipeWireSession = "pipewire & sleep 0.3; wireplumber & sleep 0.3; exec pipewire-pulse";
 
-std::filesystem::path makeFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "soundserver-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for a sound server");
-    return pattern;
-}
-
 /// Starts a program at the head of a process group of its own, with its words in a file.
 pid_t startProgram(const std::vector<std::string>& words, const std::filesystem::path& log) {
     std::vector<char*> arguments;
@@ -69,7 +63,7 @@ std::string nameOf(ServerKind kind) {
     return kind == ServerKind::pulseAudio ? "PulseAudio" : "PipeWire";
 }
 
-SoundServer::SoundServer(ServerKind kind) : kind_(kind), folder_(makeFolder()) {
+SoundServer::SoundServer(ServerKind kind) : kind_(kind) {
     for (const char* variable : {"XDG_RUNTIME_DIR", "HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"}) {
         setenv(variable, folder_.c_str(), 1);
     }
@@ -79,7 +73,6 @@ SoundServer::SoundServer(ServerKind kind) : kind_(kind), folder_(makeFolder()) {
 
 SoundServer::~SoundServer() {
     kill();
-    std::filesystem::remove_all(folder_);
 }
 
 void SoundServer::start() {

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "support/TemporaryFolder.h"
+
 namespace lyrebrook {
 
 enum class ServerKind { pulseAudio, pipeWire };
@@ -55,7 +57,8 @@ class SoundServer {
     void loadSink() const;
 
     ServerKind kind_;
-    std::filesystem::path folder_;
+    TemporaryFolder temporary_;
+    const std::filesystem::path& folder_ = temporary_.path;
     pid_t process_ = -1;
 };
 

@@ -50,7 +50,7 @@ const Timing timings[] = {
      1},
     {"film frames", midiFile({note + endOfTrack}, 1, 0xE728), {0.1}, 0.1},
     {"tracks one after the other", midiFile({note + endOfTrack, note + endOfTrack}, 2), {1, 2}, 2},
-    {"an unknown chunk", midiFile({}) + chunk("XXXX", "?") + midiFile({note}).substr(14), {1}, 1},
+    {"an unknown chunk", midiFile({}) + chunk("Misc", "?") + midiFile({note}).substr(14), {1}, 1},
     {"inside a RIFF file", wrapped + midiFile({note}), {1}, 1},
     {"a track that claims too much", midiFile({note}).replace(21, 1, "\x7F"), {1}, 1},
     {"a track that is cut in its second note", midiFile({note + note.substr(0, 3)}), {1}, 2},

@@ -3,10 +3,8 @@
 #include "MidiBytes.h"
 #include "platform/directx/DirectX8.h"
 #include "platform/sound/SoundDesk.h"
+#include "support/TemporaryFolder.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -17,17 +15,12 @@ namespace lyrebrook {
 class MusicDesk final : public SoundDesk, public DirectXEvent8 {
   public:
     explicit MusicDesk(Frames captureLatency = 0) : SoundDesk(captureLatency) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "musicXXXXXX").string();
-        folder = mkdtemp(pattern.data());
         performance->InitAudio(0, DMUS_AUDIOF_ALL, DMUS_APATH_DYNAMIC_STEREO, 128);
         performance->AddNotificationType(DMUS_NOTIFY_ON_SEGMENT);
         event = dx.CreateEvent(*this);
         performance->SetNotificationHandle(event);
     }
-    ~MusicDesk() {
-        dx.DestroyEvent(event);
-        std::filesystem::remove_all(folder);
-    }
+    ~MusicDesk() { dx.DestroyEvent(event); }
 
     std::filesystem::path file(const std::string& name, const std::string& content) const {
         std::ofstream(folder / name, std::ios::binary) << content;
@@ -70,7 +63,8 @@ class MusicDesk final : public SoundDesk, public DirectXEvent8 {
     std::int32_t event = 0;
     int ends = 0;
     std::function<void()> onEnd;
-    std::filesystem::path folder;
+    const TemporaryFolder temporary;
+    const std::filesystem::path& folder = temporary.path;
 };
 
 /// Seconds at which a sound begins after at least a tenth of a second without one.

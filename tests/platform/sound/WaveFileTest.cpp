@@ -13,6 +13,7 @@
 #include "SoundDesk.h"
 #include "platform/base/ReplacingFile.h"
 #include "platform/base/RuntimeError.h"
+#include "support/TemporaryFolder.h"
 
 namespace lyrebrook {
 namespace {
@@ -21,12 +22,6 @@ using Bytes = std::string;
 
 class WaveFiles : public testing::Test {
   protected:
-    WaveFiles() {
-        std::string name = (std::filesystem::temp_directory_path() / "lyrebrook-waves-XXXXXX").string();
-        folder = mkdtemp(name.data());
-    }
-    ~WaveFiles() override { std::filesystem::remove_all(folder); }
-
     std::filesystem::path write(const Bytes& bytes) const {
         std::ofstream(folder / "track.wav", std::ios::binary) << bytes;
         return folder / "track.wav";
@@ -40,7 +35,8 @@ class WaveFiles : public testing::Test {
         return {data->frames().begin(), data->frames().end()};
     }
 
-    std::filesystem::path folder;
+    const TemporaryFolder temporary;
+    const std::filesystem::path& folder = temporary.path;
 };
 
 Bytes number(std::uint32_t value, int bytes) {
