@@ -15,7 +15,6 @@ ComboBox::ComboBox(QWidget* container, Editing editing) : Control(new QComboBox(
     QObject::connect(&combo(), &QComboBox::activated, [this] { fromQt([this] { Click.fire(); }); });
     if (editing == Editing::listOnly) return;
     combo().setCompleter(nullptr);
-    combo().lineEdit()->setTextMargins(5, 0, 0, 0);  // in line with the texts of the boxes around it
     QObject::connect(combo().lineEdit(), &QLineEdit::textEdited, [this] { fromQt([this] { Change.fire(); }); });
 }
 

@@ -131,6 +131,14 @@ void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     drawArrow(PE_IndicatorArrowDown, SC_SpinBoxDown);
 }
 
+QRect ThemeStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                 const QWidget* widget) const {
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control != CC_ComboBox || part != SC_ComboBoxEditField) return rect;
+    constexpr int inLineWithTextBoxes = 5;
+    return rect.adjusted(inLineWithTextBoxes, 0, 0, 0);
+}
+
 QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
     const QIcon own = themeIcon(icon);
     return own.isNull() ? QProxyStyle::standardIcon(icon, option, widget) : own;
